@@ -1,0 +1,157 @@
+// The road from an exported function to its kernel: validation in the function's own order, the choice between the
+// packed and the general kernel, and the limit above which the driver takes the call.
+//
+// An argument struct X gives operands(f), which calls f with each of its blocks in turn and says whether f was true of
+// all; sizesValid(); isPacked(); in arrays count and estimate(); where sizes must fit each other sizesMatch().
+#pragma once
+
+#include "frame/operands.h"
+
+namespace zepm
+{
+
+// ---- Validation steps
+// ------------------------------------------------------------------------------------------------
+
+struct Pointers
+{
+    template <class X>
+    ZEPM_INLINE static Status check(const X& x)
+    {
+        return x.operands([](const auto& block) { return !block.isNull(); }) ? stsOk : stsNullPtrErr;
+    }
+};
+
+struct Count
+{
+    template <class X>
+    ZEPM_INLINE static Status check(const X& x)
+    {
+        return x.count >= 1 ? stsOk : stsCountErr;
+    }
+};
+
+struct Sizes
+{
+    template <class X>
+    ZEPM_INLINE static Status check(const X& x)
+    {
+        return x.sizesValid() ? stsOk : stsSizeErr;
+    }
+};
+
+struct Strides
+{
+    template <class X>
+    ZEPM_INLINE static Status check(const X& x)
+    {
+        return x.operands([](const auto& block) { return block.stridesValid(); }) ? stsOk : stsStrideErr;
+    }
+};
+
+// The strides of the named operands alone: StridesOf<&X::val, &X::dst>.
+template <auto... Operands>
+struct StridesOf
+{
+    template <class X>
+    ZEPM_INLINE static Status check(const X& x)
+    {
+        return (... && (x.*Operands).stridesValid()) ? stsOk : stsStrideErr;
+    }
+};
+
+struct RoiShifts
+{
+    template <class X>
+    ZEPM_INLINE static Status check(const X& x)
+    {
+        return x.operands([](const auto& block) { return block.shiftValid(); }) ? stsOk : stsRoiShiftErr;
+    }
+};
+
+struct SizeMatch
+{
+    template <class X>
+    ZEPM_INLINE static Status check(const X& x)
+    {
+        return x.sizesMatch() ? stsOk : stsSizeMatchErr;
+    }
+};
+
+// The steps of a function in its order; the first that fails decides.
+template <class... Steps>
+struct order
+{
+    template <class X>
+    ZEPM_INLINE static Status check(const X& x)
+    {
+        Status status = stsOk;
+        static_cast<void>((... && ((status = Steps::check(x)) == stsOk)));
+        return status;
+    }
+};
+
+// ---- Work
+// ------------------------------------------------------------------------------------------------------------
+
+// A work estimate as the limits are compared with it: it wraps in 32 bits, and one that wraps negative stays serial.
+class Work
+{
+public:
+    ZEPM_INLINE Work(int32 elements) : bits(static_cast<uint32_t>(elements)) {}
+    ZEPM_INLINE int32 estimate() const { return static_cast<int32>(bits); }
+    ZEPM_INLINE friend Work operator+(Work a, Work b) { return Work(a.bits + b.bits); }
+    ZEPM_INLINE friend Work operator*(Work a, Work b) { return Work(a.bits * b.bits); }
+
+private:
+    ZEPM_INLINE explicit Work(uint32_t wrapped) : bits(wrapped) {}
+    uint32_t bits;
+};
+
+// The smallest estimate that takes the driver, for packed and for general operands.
+template <int32 Packed, int32 General = Packed>
+struct parallelFrom
+{
+    static constexpr int32 packed = Packed;
+    static constexpr int32 general = General;
+};
+
+// ---- The choice of path
+// ----------------------------------------------------------------------------------------------
+
+template <class X>
+using Kernel = Status (*)(const X&);
+
+// Arrays in S and L.
+template <class X, class Order, class Limits>
+ZEPM_INLINE Status enter(const X& x, Order, Limits, Kernel<X> packed, Kernel<X> general, Kernel<X> driver)
+{
+    if (const Status invalid = Order::check(x)) return invalid;
+    if (x.isPacked()) return x.estimate() >= Limits::packed ? driver(x) : packed(x);
+    return x.estimate() >= Limits::general ? driver(x) : general(x);
+}
+
+// Arrays in P, and families with one kernel.
+template <class X, class Order, class Limits>
+ZEPM_INLINE Status enter(const X& x, Order, Limits, Kernel<X> kernel, Kernel<X> driver)
+{
+    if (const Status invalid = Order::check(x)) return invalid;
+    return x.estimate() >= Limits::general ? driver(x) : kernel(x);
+}
+
+// Forms that are always serial.
+template <class X, class Order>
+ZEPM_INLINE Status enter(const X& x, Order, Kernel<X> packed, Kernel<X> general)
+{
+    if (const Status invalid = Order::check(x)) return invalid;
+    return x.isPacked() ? packed(x) : general(x);
+}
+
+template <class X, class Order>
+ZEPM_INLINE Status enter(const X& x, Order, Kernel<X> kernel)
+{
+    if (const Status invalid = Order::check(x)) return invalid;
+    return kernel(x);
+}
+
+} // namespace zepm

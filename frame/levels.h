@@ -1,0 +1,18 @@
+// One kernel source, compiled once for each instruction-set level; the named kernel picks the level in force here.
+#pragma once
+
+#include "frame/operands.h"
+#include "zepcore.h"
+
+namespace zepm
+{
+
+template <class Function>
+ZEPM_INLINE Function* atLevel(Function* ssse3, Function* avx2, Function* avx512)
+{
+    const int32 level = ownGetCpuLevel();
+    if (level >= 2) return avx512;
+    return level == 1 ? avx2 : ssse3;
+}
+
+} // namespace zepm

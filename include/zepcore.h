@@ -1,0 +1,52 @@
+/* zepcore.h: the process-wide settings that zepm reads: threads, instruction-set level, least work worth a fork.
+ *
+ *   threads      ownGetNumThreads, zepSetNumThreads
+ *   processor    ownGetCpuLevel, zepSetCpuLevel, zepGetMaxCacheSizeB
+ *   fork limit   ownGetMinParallelWork, zepSetMinParallelWork
+ *
+ * All functions may be called from any thread at any time. A setting takes effect with the next call that reads it.
+ */
+#ifndef ZEPCORE_H
+#define ZEPCORE_H
+
+#include "zepm_types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+#pragma GCC visibility push(default)
+
+/* The number of threads that an array call may use, at least 1.
+ *
+ * Unless set, it is what OpenMP would use (OMP_NUM_THREADS and the processor affinity count), at most the processors
+ * available. It is 1 inside an active parallel region, and 1 in a child forked by a process that had threads: OpenMP's
+ * team does not survive the fork. */
+int32 ownGetNumThreads(void);
+
+/* Sets the number of threads. stsSizeErr if numThreads is below 1; the setting is then unchanged. */
+Status zepSetNumThreads(int32 numThreads);
+
+/* The instruction-set level in force: 0 baseline (SSSE3), 1 AVX2, 2 AVX-512. Unless set, the highest that the processor
+ * and the operating system support. Results are the same at every level. */
+int32 ownGetCpuLevel(void);
+
+/* Sets the level. stsSizeErr if it is below 0 or above what the processor has; the setting is then unchanged. */
+Status zepSetCpuLevel(int32 level);
+
+/* Writes the size in bytes of the largest processor cache, 0 if it is not known. stsNullPtrErr if pSizeByte is null. */
+Status zepGetMaxCacheSizeB(int32* pSizeByte);
+
+/* The least work, in elements read and written, for which the cheap families (element-wise, vector, product and point
+ * functions) fork threads. Below it they run on the calling thread whatever their own limit says. */
+int32 ownGetMinParallelWork(void);
+
+/* Sets the least work; 0 leaves the limit of each function alone in force. stsSizeErr if elements is below 0; the
+ * setting is then unchanged. */
+Status zepSetMinParallelWork(int32 elements);
+
+#pragma GCC visibility pop
+#ifdef __cplusplus
+}
+#endif
+
+#endif
