@@ -1,0 +1,439 @@
+// The lanes that every exported function runs through. A failure names the function and the case, and one line replays
+// it.
+//
+// Cases are numbered in each lane; CHECK_CASE runs one alone, CHECK_SEED chooses other elements.
+#include "tests/check/run.h"
+#include "zepcore.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <regex>
+#include <set>
+
+using namespace check;
+
+namespace
+{
+
+int settingOf(const char* name, int otherwise)
+{
+    const char* const text = std::getenv(name);
+    return text ? std::atoi(text) : otherwise;
+}
+
+std::vector<int32> levels()
+{
+    const int32 inForce = ownGetCpuLevel();
+    std::vector<int32> list;
+    for (int32 level = 0; level <= 2 && zepSetCpuLevel(level) == stsOk; ++level)
+        list.push_back(level);
+    zepSetCpuLevel(inForce);
+    return list;
+}
+
+// The level for the length of a scope.
+class AtLevel
+{
+public:
+    explicit AtLevel(int32 level) { zepSetCpuLevel(level); }
+    ~AtLevel() { zepSetCpuLevel(before); }
+
+private:
+    const int32 before = ownGetCpuLevel();
+};
+
+class AtThreads
+{
+public:
+    explicit AtThreads(int32 count) { threadsToUse = count; }
+    ~AtThreads() { threadsToUse = 1; }
+};
+
+class Lane : public testing::TestWithParam<const Function*>
+{
+protected:
+    const Function& function = *GetParam();
+    Trial trial{function};
+    int number = 0;
+
+    // Whether the next case runs, and what a failure says of it.
+    bool takes(Case& next)
+    {
+        ++number;
+        next.seed = static_cast<unsigned>(settingOf("CHECK_SEED", 1) * 1000003 + number);
+        const int only = settingOf("CHECK_CASE", 0);
+        return only == 0 || only == number;
+    }
+    std::string words(const Case& chosen) const
+    {
+        const testing::TestInfo* const info = testing::UnitTest::GetInstance()->current_test_info();
+        return function.name + ", " + chosen.describe() + ", level " + std::to_string(ownGetCpuLevel()) + ", " +
+               std::to_string(threadsToUse) +
+               " threads\n  replay: CHECK_SEED=" + std::to_string(settingOf("CHECK_SEED", 1)) +
+               " CHECK_CASE=" + std::to_string(number) + " check_test --gtest_filter=" + info->test_suite_name() + "." +
+               info->name();
+    }
+    // One call that must succeed and leave exactly the reference's results.
+    bool passes(Case chosen)
+    {
+        if (!takes(chosen)) return true;
+        trial.prepare(chosen);
+        const Status status = trial.call(Trial::values(trial.args()));
+        EXPECT_EQ(status, stsOk) << words(chosen);
+        const std::string difference = trial.difference();
+        EXPECT_EQ(difference, "") << words(chosen);
+        return status == stsOk && difference.empty();
+    }
+};
+
+// Functions with arrays, with a driver, with an argument that validation leaves out.
+class ArrayLane : public Lane
+{
+};
+class DriverLane : public Lane
+{
+};
+class NarrowLane : public Lane
+{
+};
+
+// The smallest count whose estimate takes the driver, at least threads.
+int32 countFor(const Function& function, const std::vector<int>& sizes, int32 limit, int32 threads)
+{
+    int32 count = threads;
+    while (function.estimate(sizes, count) < limit)
+        ++count;
+    return count;
+}
+
+const std::vector<Strides> nearStrides = {Strides::Dense,       Strides::Gapped, Strides::Records,   Strides::General,
+                                          Strides::ColumnMajor, Strides::Across, Strides::OneGeneral};
+
+} // namespace
+
+// ---- Results and memory
+// ----------------------------------------------------------------------------------------------
+
+// All layouts and strides, small and odd sizes, operands flush against unreadable pages on either side; every byte
+// between and around the elements stays as it is.
+TEST_P(Lane, Values)
+{
+    for (const int32 level : levels()) {
+        const AtLevel atLevel(level);
+        for (const std::vector<int>& sizes : function.sizesToTry) {
+            const std::vector<int> counts =
+                function.isArray() ? std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 33} : std::vector<int>{1};
+            for (const int count : counts)
+                for (const Strides strides : nearStrides)
+                    for (const bool atEnd : {true, false})
+                        if (!passes({sizes, count, strides, {atEnd, 0}})) return;
+        }
+    }
+}
+
+// Bases at every byte offset.
+TEST_P(Lane, Alignment)
+{
+    for (const int32 level : levels()) {
+        const AtLevel atLevel(level);
+        for (const std::vector<int>& sizes : function.sizesToTry)
+            for (const Strides strides : {Strides::Dense, Strides::Records, Strides::General})
+                for (size_t offset = 1; offset < 16; ++offset)
+                    if (!passes({sizes, function.isArray() ? 17 : 1, strides, {false, offset}})) return;
+    }
+}
+
+// A destination that is a source.
+TEST_P(Lane, InPlace)
+{
+    if (!function.worksInPlace) return;
+    const Operand& dst = function.operands.back();
+    for (const int32 level : levels()) {
+        const AtLevel atLevel(level);
+        for (const std::vector<int>& sizes : function.sizesToTry)
+            for (size_t n = 0; n + 1 < function.operands.size(); ++n) {
+                const Operand& source = function.operands[n];
+                if (source.letter != dst.letter || source.isArray != dst.isArray) continue;
+                for (const Strides strides : nearStrides)
+                    if (!passes({sizes, function.isArray() ? 37 : 1, strides, {}, 1, static_cast<int>(n)})) return;
+            }
+    }
+}
+
+// Objects and elements 2 GiB apart, over sparse memory: offsets pass 2 and 4 GiB, in the shift of a share as well.
+TEST_P(ArrayLane, FarApart)
+{
+    if (sizeof(void*) == 4) return; // no room
+    for (const int32 threads : {1, 4})
+        for (const Strides strides : {Strides::Far, Strides::FarElements}) {
+            const AtThreads atThreads(threads);
+            Case chosen{function.sizesToTry[3], 4, strides, {}};
+            // Few objects with work enough for the driver.
+            if (strides == Strides::Far && function.hasDriver())
+                chosen.sizes.assign(chosen.sizes.size(), function.sizeNames.size() == 1 ? 1300 : 40);
+            if (!takes(chosen)) continue;
+            trial.prepare(chosen);
+            EXPECT_EQ(trial.call(Trial::values(trial.args())), stsOk) << words(chosen);
+            EXPECT_EQ(trial.differenceOfElements(), "") << words(chosen);
+        }
+}
+
+// ---- Validation
+// ------------------------------------------------------------------------------------------------------
+
+namespace
+{
+
+struct Violation
+{
+    char step;
+    Status status;
+    size_t arg;
+    Arg value;
+};
+
+std::vector<Violation> violationsOf(const Function& function, const std::vector<NamedArg>& args)
+{
+    std::vector<Violation> list;
+    const int32 sz = function.isFloat32 ? 4 : 8;
+    for (size_t n = 0; n < args.size(); ++n) {
+        if (std::count(function.untested.begin(), function.untested.end(), args[n].name)) continue;
+        auto add = [&](char step, Status status, std::initializer_list<int32> values) {
+            for (const int32 value : values)
+                list.push_back({step, status, n, value});
+        };
+        switch (args[n].kind) {
+        case NamedArg::Pointer:
+            list.push_back({'N', stsNullPtrErr, n, static_cast<const void*>(nullptr)});
+            break;
+        case NamedArg::Count:
+            add('C', stsCountErr, {0, -1, INT32_MIN});
+            break;
+        case NamedArg::Size:
+            add('Z', stsSizeErr, {0, -3, INT32_MIN});
+            break;
+        case NamedArg::Stride:
+            add('T', stsStrideErr, {0, -sz, sz + 1, sz / 2, 2 * sz - 1, INT32_MIN});
+            break;
+        case NamedArg::Shift:
+            add('R', stsRoiShiftErr, {-sz, 1, sz + sz / 2, INT32_MIN});
+            break;
+        case NamedArg::Value:
+            break;
+        }
+    }
+    return list;
+}
+
+} // namespace
+
+// Every step violated alone and with every other: the first in the function's order decides, and nothing is written.
+TEST_P(Lane, Validation)
+{
+    std::set<char> steps;
+    for (Strides strides : {Strides::Gapped, Strides::General}) {
+        Case chosen{function.sizesToTry[3], function.isArray() ? 3 : 1, strides, {}};
+        if (!takes(chosen)) continue;
+        trial.prepare(chosen);
+        const std::vector<NamedArg> valid = trial.args();
+        ASSERT_EQ(valid.size(), function.parameterCount);
+        const std::vector<Violation> violations = violationsOf(function, valid);
+        for (const Violation& first : violations) {
+            steps.insert(first.step);
+            ASSERT_NE(function.order.find(first.step), std::string::npos)
+                << function.name << " has no step " << first.step;
+            for (const Violation& second : violations) {
+                if (first.arg == second.arg && &first != &second) continue;
+                std::vector<Arg> args = Trial::values(valid);
+                args[first.arg] = first.value;
+                args[second.arg] = second.value;
+                const bool firstDecides = function.order.find(first.step) <= function.order.find(second.step);
+                const Status status = trial.call(args);
+                ASSERT_EQ(status, (firstDecides ? first : second).status)
+                    << words(chosen) << "\n  " << valid[first.arg].name << " and " << valid[second.arg].name
+                    << " violated";
+            }
+        }
+        ASSERT_EQ(trial.change(), "") << words(chosen);
+    }
+    EXPECT_EQ(std::string(steps.begin(), steps.end()).size(), function.order.size());
+}
+
+// What validation leaves out is used as it is given.
+TEST_P(NarrowLane, Untested)
+{
+    Case chosen{function.sizesToTry[3], 1, Strides::General, {}};
+    if (!takes(chosen)) return;
+    for (const std::string& name : function.untested) {
+        trial.prepare(chosen);
+        std::vector<NamedArg> args = trial.args();
+        for (NamedArg& arg : args) {
+            if (arg.name != name) continue;
+            const int32 sz = function.isFloat32 ? 4 : 8;
+            if (arg.kind == NamedArg::Stride) {
+                arg.value = 0; // one object lies nowhere else
+                continue;
+            }
+            // A shift that is no multiple of the element size, and a table that makes up for it.
+            const int32 shift = std::get<int32>(arg.value);
+            arg.value = shift - 3 * sz - 1;
+            const NamedArg& pointer = *(&arg - 1);
+            const auto table = static_cast<const char**>(const_cast<void*>(std::get<const void*>(pointer.value)));
+            for (int n = 0; n < chosen.sizes[0]; ++n)
+                table[n] += 3 * sz + 1;
+        }
+        EXPECT_EQ(trial.call(Trial::values(args)), stsOk) << words(chosen) << "\n  " << name;
+        EXPECT_EQ(trial.difference(), "") << words(chosen) << "\n  " << name;
+    }
+}
+
+// ---- Drivers
+// ---------------------------------------------------------------------------------------------------------
+
+namespace
+{
+
+// Sizes and count whose estimate is exactly wanted, or is the nearest to it that is reached on the given side.
+Case caseWithEstimate(const Function& function, int32 wanted, bool atOrAbove)
+{
+    Case best;
+    int32 nearest = 0;
+    bool found = false;
+    const size_t sizeCount = function.sizeNames.size();
+    for (int size = 1; size <= 60; ++size) {
+        const std::vector<int> sizes(sizeCount, size);
+        for (int count = 2; count <= 6000; ++count) {
+            const int32 estimate = function.estimate(sizes, count);
+            const bool fits = atOrAbove ? estimate >= wanted : estimate <= wanted;
+            if (!atOrAbove && estimate > wanted) break;
+            const int32 distance = std::abs(estimate - wanted);
+            if (fits && (!found || distance < nearest)) {
+                best.sizes = sizes;
+                best.count = count;
+                nearest = distance;
+                found = true;
+                if (nearest == 0) return best;
+            }
+            if (atOrAbove && estimate >= wanted) break;
+        }
+    }
+    return best;
+}
+
+} // namespace
+
+// One below the limit the driver is not entered, at the limit it is; it asks for the number of threads.
+TEST_P(Lane, Limits)
+{
+    for (const Strides strides : {Strides::Gapped, Strides::General})
+        for (const bool above : {false, true}) {
+            if (!function.hasDriver()) continue;
+            const bool isPacked = strides == Strides::Gapped && function.layout != Layout::P;
+            const int32 limit = isPacked ? function.limits.packed : function.limits.general;
+            Case chosen = caseWithEstimate(function, above ? limit : limit - 1, above);
+            chosen.strides = strides;
+            if (!takes(chosen)) continue;
+            trial.prepare(chosen);
+            threadsAsked = 0;
+            EXPECT_EQ(trial.call(Trial::values(trial.args())), stsOk) << words(chosen);
+            EXPECT_EQ(threadsAsked > 0, above) << words(chosen) << "\n  estimate "
+                                               << function.estimate(chosen.sizes, chosen.count) << ", limit " << limit;
+        }
+    if (function.hasDriver()) return;
+    // Functions without a driver never ask.
+    Case chosen{{std::vector<int>(function.sizeNames.size(), 60)}, function.isArray() ? 900 : 1, Strides::Gapped, {}};
+    if (!takes(chosen)) return;
+    trial.prepare(chosen);
+    threadsAsked = 0;
+    EXPECT_EQ(trial.call(Trial::values(trial.args())), stsOk) << words(chosen);
+    EXPECT_EQ(threadsAsked, 0) << words(chosen);
+}
+
+// The same bytes at every number of threads and every instruction-set level; more threads than objects included.
+TEST_P(DriverLane, ThreadsAndLevels)
+{
+    for (const std::vector<int>& sizes : {function.sizesToTry[2], function.sizesToTry[8]})
+        for (const Strides strides : {Strides::Dense, Strides::General}) {
+            Case chosen{sizes, countFor(function, sizes, function.limits.packed, 8) + 3, strides, {}};
+            if (!takes(chosen)) continue;
+            std::vector<std::vector<char>> first;
+            for (const int32 level : levels())
+                for (const int32 threads : {1, 2, 3, 4, 5, 8}) {
+                    const AtLevel atLevel(level);
+                    const AtThreads atThreads(threads);
+                    trial.prepare(chosen);
+                    ASSERT_EQ(trial.call(Trial::values(trial.args())), stsOk) << words(chosen);
+                    ASSERT_EQ(trial.difference(), "") << words(chosen);
+                    if (first.empty()) first = trial.outputs();
+                    ASSERT_EQ(trial.outputs(), first) << words(chosen);
+                }
+        }
+}
+
+// A count just below the number of threads, at it, and above, where the driver forks.
+TEST_P(DriverLane, FewObjects)
+{
+    const AtThreads atThreads(4);
+    for (const int count : {1, 3, 4, 5, 10}) {
+        std::vector<int> sizes(function.sizeNames.size(), 1);
+        while (function.estimate(sizes, count) < function.limits.packed && sizes[0] < 2000)
+            for (int& size : sizes)
+                ++size;
+        if (!passes({sizes, count, Strides::Dense, {}})) return;
+    }
+}
+
+namespace
+{
+
+template <class Predicate>
+std::vector<const Function*> functionsThat(Predicate predicate)
+{
+    std::vector<const Function*> list;
+    for (const Function& function : allFunctions())
+        if (predicate(function)) list.push_back(&function);
+    return list;
+}
+
+std::string nameOf(const testing::TestParamInfo<const Function*>& row) { return row.param->name; }
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(All, Lane, testing::ValuesIn(functionsThat([](const Function&) { return true; })), nameOf);
+INSTANTIATE_TEST_SUITE_P(All, ArrayLane,
+                         testing::ValuesIn(functionsThat([](const Function& f) { return f.isArray(); })), nameOf);
+INSTANTIATE_TEST_SUITE_P(All, DriverLane,
+                         testing::ValuesIn(functionsThat([](const Function& f) { return f.hasDriver(); })), nameOf);
+INSTANTIATE_TEST_SUITE_P(All, NarrowLane,
+                         testing::ValuesIn(functionsThat([](const Function& f) { return !f.untested.empty(); })),
+                         nameOf);
+
+// ---- The table itself
+// ------------------------------------------------------------------------------------------------
+
+// Every function of the headers has its row.
+TEST(Table, Complete)
+{
+    std::set<std::string> declared, known;
+    for (const char* const header : {"zepm_elementwise.h"}) {
+        std::ifstream file(std::string(CHECK_INCLUDE_DIR "/") + header);
+        ASSERT_TRUE(file) << header;
+        const std::string text{std::istreambuf_iterator<char>(file), {}};
+        const std::regex prototype("Status (zepm[A-Za-z0-9_]+)\\(");
+        for (std::sregex_iterator at(text.begin(), text.end(), prototype), end; at != end; ++at)
+            declared.insert((*at)[1]);
+    }
+    for (const Function& function : allFunctions())
+        known.insert(function.name);
+    EXPECT_EQ(declared, known);
+    EXPECT_EQ(known.size(), allFunctions().size());
+}
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    zepSetMinParallelWork(0); // the bare limits of the functions
+    return RUN_ALL_TESTS();
+}

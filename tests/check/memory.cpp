@@ -1,0 +1,49 @@
+#include "tests/check/memory.h"
+
+#include <new>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#ifndef __has_feature
+#define __has_feature(name) 0
+#endif
+#if defined(__SANITIZE_ADDRESS__) || __has_feature(address_sanitizer)
+#include <sanitizer/asan_interface.h>
+#define CHECK_POISONS 1
+#else
+#define CHECK_POISONS 0
+#endif
+
+namespace check
+{
+
+namespace
+{
+
+size_t pageSize() { return static_cast<size_t>(sysconf(_SC_PAGESIZE)); }
+
+} // namespace
+
+Arena::Arena(size_t wanted) : size((wanted + pageSize() - 1) / pageSize() * pageSize())
+{
+    void* const p = mmap(nullptr, size + 2 * pageSize(), PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (p == MAP_FAILED) throw std::bad_alloc();
+    start = static_cast<char*>(p) + pageSize();
+    if (mprotect(start, size, PROT_READ | PROT_WRITE) != 0) throw std::bad_alloc();
+}
+
+Arena::~Arena()
+{
+    allow(start, size);
+    munmap(start - pageSize(), size + 2 * pageSize());
+}
+
+#if CHECK_POISONS
+void forbid(const char* p, size_t n) { ASAN_POISON_MEMORY_REGION(p, n); }
+void allow(const char* p, size_t n) { ASAN_UNPOISON_MEMORY_REGION(p, n); }
+#else
+void forbid(const char*, size_t) {}
+void allow(const char*, size_t) {}
+#endif
+
+} // namespace check

@@ -1,0 +1,231 @@
+#include "tests/check/run.h"
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <sstream>
+
+namespace check
+{
+
+int32 threadsToUse = 1;
+int threadsAsked = 0;
+
+namespace
+{
+
+// Values over many orders of magnitude, with the special ones among them. Only one operand of a call holds a NaN, so
+// that which of two NaNs survives is no question.
+template <class T>
+T element(std::mt19937& random, bool mayBeNan)
+{
+    const unsigned kind = random() % 64;
+    const T sign = random() % 2 ? T(1) : T(-1);
+    switch (kind) {
+    case 0:
+        return sign * T(0);
+    case 1:
+        return sign * std::numeric_limits<T>::infinity();
+    case 2:
+        return sign * std::numeric_limits<T>::denorm_min() * T(random() % 1000);
+    case 3:
+        return sign * std::numeric_limits<T>::max();
+    case 4:
+        return mayBeNan ? std::numeric_limits<T>::quiet_NaN() : sign;
+    default:
+        break;
+    }
+    const T fraction = T(1) + T(random()) / T(4294967296.0);
+    return sign * std::ldexp(fraction, static_cast<int>(random() % 40) - 20);
+}
+
+const char* nameOf(Strides strides)
+{
+    constexpr const char* names[] = {"dense",  "gapped",      "records", "general",     "column-major",
+                                     "across", "one general", "far",     "far elements"};
+    return names[static_cast<int>(strides)];
+}
+
+} // namespace
+
+std::string Case::describe() const
+{
+    std::ostringstream out;
+    out << "sizes";
+    for (const int size : sizes)
+        out << ' ' << size;
+    out << ", count " << count << ", strides " << nameOf(strides);
+    if (placement.atEnd)
+        out << ", flush against the page behind";
+    else
+        out << ", " << placement.offset << " bytes behind the page in front";
+    if (inPlace >= 0) out << ", in place of source " << inPlace + 1;
+    return out.str();
+}
+
+Trial::Trial(const Function& function_) : function(function_)
+{
+    for (const Operand& operand : function.operands)
+        images.emplace_back(operand, function.layout, function.isFloat32 ? 4 : 8, static_cast<int>(images.size()));
+}
+
+template <class T>
+void Trial::fill(const Case& chosen)
+{
+    std::mt19937 random(chosen.seed);
+    Problem<T> problem{chosen.sizes, chosen.count, {}};
+    for (size_t n = 0; n < images.size(); ++n) {
+        const auto [rows, cols] = function.shape(function.operands[n], chosen.sizes);
+        Tensor<T>& tensor = problem.operands.emplace_back();
+        tensor = {function.operands[n].isArray ? chosen.count : 1, rows, cols, {}};
+        tensor.elements.resize(static_cast<size_t>(tensor.count) * static_cast<size_t>(rows * cols));
+        if (function.operands[n].isDst) continue;
+        for (T& x : tensor.elements)
+            x = element<T>(random, n == 0);
+        if (function.operands[n].letter == 'c' && !function.operands[n].isArray) {
+            constant = static_cast<double>(tensor.elements[0]);
+            continue;
+        }
+        for (int k = 0; k < tensor.count; ++k)
+            for (int i = 0; i < rows; ++i)
+                for (int j = 0; j < cols; ++j)
+                    std::memcpy(images[n].element(k, i, j), &tensor.at(k, i, j), sizeof(T));
+    }
+    std::get<std::function<void(Problem<T>&)>>(function.reference)(problem);
+    expected.clear();
+    for (size_t n = 0; n < images.size(); ++n) {
+        expected.emplace_back();
+        if (!function.operands[n].isDst) continue;
+        const char* const p = reinterpret_cast<const char*>(problem.operands[n].elements.data());
+        expected.back().assign(p, p + problem.operands[n].elements.size() * sizeof(T));
+    }
+}
+
+void Trial::prepare(const Case& chosen)
+{
+    count = chosen.count;
+    sizes = chosen.sizes;
+    isFar = chosen.strides == Strides::Far || chosen.strides == Strides::FarElements;
+    for (size_t n = 0; n < images.size(); ++n) {
+        const auto [rows, cols] = function.shape(function.operands[n], chosen.sizes);
+        Placement placement = chosen.placement;
+        if (!placement.atEnd && placement.offset > 0) placement.offset = (placement.offset + 5 * n) % 16;
+        if (function.operands[n].isDst && chosen.inPlace >= 0)
+            images[n].placeAt(images[static_cast<size_t>(chosen.inPlace)]);
+        else
+            images[n].place(rows, cols, chosen.count, chosen.strides, placement);
+    }
+    if (function.isFloat32)
+        fill<float32>(chosen);
+    else
+        fill<float64>(chosen);
+    before.clear();
+    for (const Image& image : images)
+        before.push_back(isFar ? std::vector<char>() : image.bytes());
+}
+
+std::vector<NamedArg> Trial::args() const
+{
+    std::vector<NamedArg> list;
+    for (const std::string& item : function.items) {
+        bool isOperand = false;
+        for (const Image& image : images)
+            if (image.operand.name == item) {
+                isOperand = true;
+                if (image.operand.letter == 'c' && !image.operand.isArray)
+                    list.push_back({NamedArg::Value, "val", constant});
+                else
+                    for (NamedArg& arg : image.args())
+                        list.push_back(arg);
+            }
+        if (isOperand) continue;
+        if (item == "count") {
+            list.push_back({NamedArg::Count, item, count});
+            continue;
+        }
+        for (size_t n = 0; n < function.sizeNames.size(); ++n)
+            if (function.sizeNames[n] == item) list.push_back({NamedArg::Size, item, sizes[n]});
+    }
+    return list;
+}
+
+std::vector<Arg> Trial::values(const std::vector<NamedArg>& args)
+{
+    std::vector<Arg> list;
+    for (const NamedArg& arg : args)
+        list.push_back(arg.value);
+    return list;
+}
+
+Status Trial::call(const std::vector<Arg>& args) const
+{
+    if (!isFar)
+        for (const Image& image : images)
+            image.forbidGaps();
+    const Status status = function.call(args);
+    if (!isFar)
+        for (const Image& image : images)
+            image.allowGaps();
+    return status;
+}
+
+std::string Trial::differenceFrom(const std::vector<std::vector<char>>& wanted) const
+{
+    for (size_t n = 0; n < images.size(); ++n) {
+        const std::vector<char> now = images[n].bytes();
+        for (size_t at = 0; at < now.size(); ++at)
+            if (now[at] != wanted[n][at]) return images[n].operand.name + ": " + images[n].describe(at) + " differs";
+    }
+    return "";
+}
+
+std::string Trial::difference() const
+{
+    const size_t sz = function.isFloat32 ? 4 : 8;
+    std::vector<std::vector<char>> wanted = before;
+    for (size_t n = 0; n < images.size(); ++n) {
+        if (!function.operands[n].isDst) continue;
+        const auto [rows, cols] = function.shape(function.operands[n], sizes);
+        const char* from = expected[n].data();
+        for (int k = 0; k < (function.operands[n].isArray ? count : 1); ++k)
+            for (int i = 0; i < rows; ++i)
+                for (int j = 0; j < cols; ++j, from += sz)
+                    for (size_t image = 0; image < images.size();
+                         ++image) // in place, a source shows the results as well
+                    {
+                        const char* const p = images[n].element(k, i, j);
+                        const bool isThere = image == n || images[image].bytesBegin() == images[n].bytesBegin();
+                        if (isThere) std::memcpy(wanted[image].data() + images[image].spanOffset(p), from, sz);
+                    }
+    }
+    return differenceFrom(wanted);
+}
+
+std::string Trial::change() const { return differenceFrom(before); }
+
+std::string Trial::differenceOfElements() const
+{
+    const size_t sz = function.isFloat32 ? 4 : 8;
+    for (size_t n = 0; n < images.size(); ++n) {
+        if (!function.operands[n].isDst) continue;
+        const auto [rows, cols] = function.shape(function.operands[n], sizes);
+        const char* from = expected[n].data();
+        for (int k = 0; k < (function.operands[n].isArray ? count : 1); ++k)
+            for (int i = 0; i < rows; ++i)
+                for (int j = 0; j < cols; ++j, from += sz)
+                    if (std::memcmp(images[n].element(k, i, j), from, sz) != 0)
+                        return "object " + std::to_string(k) + " element (" + std::to_string(i) + ", " +
+                               std::to_string(j) + ") differs";
+    }
+    return "";
+}
+
+std::vector<std::vector<char>> Trial::outputs() const
+{
+    std::vector<std::vector<char>> list;
+    for (size_t n = 0; n < images.size(); ++n)
+        if (function.operands[n].isDst) list.push_back(images[n].bytes());
+    return list;
+}
+
+} // namespace check

@@ -1,0 +1,68 @@
+// Running one case of a function: operands placed and filled, the call, and the whole of memory compared with what must
+// be there.
+#pragma once
+
+#include "tests/check/image.h"
+
+#include <random>
+
+namespace check
+{
+
+// What is chosen of a case; the seed chooses the elements.
+struct Case
+{
+    std::vector<int> sizes;
+    int count = 1;
+    Strides strides = Strides::Dense;
+    Placement placement;
+    unsigned seed = 1;
+    int inPlace = -1; // the source that the destination is, or -1
+
+    std::string describe() const;
+};
+
+// The memory of a function's operands, kept from case to case.
+class Trial
+{
+public:
+    explicit Trial(const Function& function);
+
+    // Places and fills the operands.
+    void prepare(const Case& chosen);
+    std::vector<NamedArg> args() const;
+    static std::vector<Arg> values(const std::vector<NamedArg>& args);
+
+    // Calls the function on the prepared operands. The gaps are out of bounds during the call.
+    Status call(const std::vector<Arg>& args) const;
+
+    // After a call that must succeed: an empty string, or what is wrong.
+    std::string difference() const;
+    // After a call that must fail: the same, nothing written.
+    std::string change() const;
+    // All bytes of the destinations, for comparison with another run.
+    std::vector<std::vector<char>> outputs() const;
+    // The elements alone, where too many bytes lie between them.
+    std::string differenceOfElements() const;
+
+    const Function& function;
+
+private:
+    template <class T>
+    void fill(const Case& chosen);
+    std::string differenceFrom(const std::vector<std::vector<char>>& expected) const;
+
+    std::vector<Image> images;
+    std::vector<std::vector<char>> before;
+    std::vector<std::vector<char>> expected; // the destinations' elements in order
+    int32 count = 1;
+    std::vector<int> sizes;
+    double constant = 0; // the value passed for a c operand
+    bool isFar = false;
+};
+
+// How many threads ownGetNumThreads answers, and how often it was asked.
+extern int32 threadsToUse;
+extern int threadsAsked;
+
+} // namespace check
