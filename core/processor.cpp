@@ -23,7 +23,8 @@ int32 largestCacheSize()
 {
     long largest = 0;
     for (const int level :
-         {_SC_LEVEL1_DCACHE_SIZE, _SC_LEVEL2_CACHE_SIZE, _SC_LEVEL3_CACHE_SIZE, _SC_LEVEL4_CACHE_SIZE}) {
+         {_SC_LEVEL1_DCACHE_SIZE, _SC_LEVEL2_CACHE_SIZE, _SC_LEVEL3_CACHE_SIZE, _SC_LEVEL4_CACHE_SIZE})
+    {
         const long size = sysconf(level);
         if (size > largest) largest = size;
     }

@@ -12,8 +12,7 @@
 namespace zepm
 {
 
-// ---- Plain loops
-// -----------------------------------------------------------------------------------------------------
+// ---- Plain loops ----------------------------------------------------------------------------------------------------
 
 // The lengths for which a kernel's loop over elements is written out.
 template <int32... Length>
@@ -25,22 +24,24 @@ struct lengths
 template <class Op, class A, class B, class D>
 ZEPM_INLINE void combineObject(Op op, const A& a, const B& b, const D& d, int32 len)
 {
-    for (int32 j = 0; j < len; ++j)
-        d.set(0, j, op(a.get(0, j), b.get(0, j)));
+    for (int32 j = 0; j < len; ++j) d.set(0, j, op(a.get(0, j), b.get(0, j)));
 }
 
 template <int32 Length, class Op, class A, class B, class D>
 ZEPM_INLINE void combineObjects(Op op, const A& a, const B& b, const D& d, int32 len, int32 count)
 {
-    for (int32 k = 0; k < count; ++k) {
-        if constexpr (Length > 0) {
+    for (int32 k = 0; k < count; ++k)
+    {
+        if constexpr (Length > 0)
+        {
             const auto objectA = a.object(k);
             const auto objectB = b.object(k);
             const auto objectD = d.object(k);
             ZEPM_UNROLL
-            for (int32 j = 0; j < Length; ++j)
-                objectD.set(0, j, op(objectA.get(0, j), objectB.get(0, j)));
-        } else {
+            for (int32 j = 0; j < Length; ++j) objectD.set(0, j, op(objectA.get(0, j), objectB.get(0, j)));
+        }
+        else
+        {
             combineObject(op, a.object(k), b.object(k), d.object(k), len);
         }
     }
@@ -61,8 +62,7 @@ ZEPM_INLINE void combineViews(Op op, const A& a, const B& b, const D& d, int32 l
     combineViews(op, a, b, d, len, count, lengths<Rest...>{});
 }
 
-// ---- Contiguous rows
-// -------------------------------------------------------------------------------------------------
+// ---- Contiguous rows ------------------------------------------------------------------------------------------------
 
 template <class T, bool IsArray, int Rank>
 ZEPM_INLINE RowOperand rowsOf(const StridedBlock<T, IsArray, Rank>& block)
@@ -104,8 +104,7 @@ inline constexpr bool isListBlock = false;
 template <class T, int Rank>
 inline constexpr bool isListBlock<ListBlock<T, Rank>> = true;
 
-// ---- Elements side by side
-// -------------------------------------------------------------------------------------------
+// ---- Elements side by side ------------------------------------------------------------------------------------------
 
 // Where the elements of successive objects lie side by side in every array, element j of all objects is a row.
 template <class T>
@@ -133,7 +132,8 @@ ZEPM_INLINE void combineAcross(Op op, const X& x)
     // The operand that is the same for all objects is the constant of these rows, and stands second.
     constexpr bool isConstant = !decltype(x.src1)::isArray || !decltype(x.src2)::isArray;
     constexpr bool flips = !decltype(x.src1)::isArray;
-    for (int32 j = 0; j < x.len; ++j) {
+    for (int32 j = 0; j < x.len; ++j)
+    {
         const RowOperand a = rowAcross(x.src1, j), b = rowAcross(x.src2, j), d = rowAcross(x.dst, j);
         if constexpr (flips)
             combineRows<decltype(flipped(op)), T>({b, a, d, isConstant, false, x.count, 1, 1});
@@ -145,8 +145,7 @@ ZEPM_INLINE void combineAcross(Op op, const X& x)
 // Fewer objects than this do not repay a call for each element.
 inline constexpr int32 leastObjectsAcross = 16;
 
-// ---- Kernels
-// ---------------------------------------------------------------------------------------------------------
+// ---- Kernels --------------------------------------------------------------------------------------------------------
 
 // One vector with contiguous elements. A long one that overlaps a source without being that source takes the plain
 // loop.
@@ -163,17 +162,13 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
         else
             return bytes(x.src2.p);
     }();
-    switch (x.len) {
-    case 3:
-        return ssse3::rowOf<T, 3>(op, a, b, d);
-    case 4:
-        return ssse3::rowOf<T, 4>(op, a, b, d);
-    case 5:
-        return ssse3::rowOf<T, 5>(op, a, b, d);
-    case 6:
-        return ssse3::rowOf<T, 6>(op, a, b, d);
-    default:
-        break;
+    switch (x.len)
+    {
+    case 3: return ssse3::rowOf<T, 3>(op, a, b, d);
+    case 4: return ssse3::rowOf<T, 4>(op, a, b, d);
+    case 5: return ssse3::rowOf<T, 5>(op, a, b, d);
+    case 6: return ssse3::rowOf<T, 6>(op, a, b, d);
+    default: break;
     }
     auto apart = [&](const char* s) __attribute__((always_inline))
     {
@@ -209,8 +204,10 @@ template <class Op, class X, class Lengths = lengths<>>
 ZEPM_INLINE Status combineStrided(Op op, const X& x, Lengths written = {})
 {
     using Dst = decltype(x.dst);
-    if constexpr (Dst::isArray && !isListBlock<Dst>) {
-        if (x.count >= leastObjectsAcross && x.operands([](const auto& block) { return liesAcross(block); })) {
+    if constexpr (Dst::isArray && !isListBlock<Dst>)
+    {
+        if (x.count >= leastObjectsAcross && x.operands([](const auto& block) { return liesAcross(block); }))
+        {
             combineAcross(op, x);
             return stsOk;
         }
@@ -230,8 +227,7 @@ ZEPM_INLINE Status combineTable(Op op, const X& x)
 template <class X, class One>
 ZEPM_INLINE Status forEachObject(const X& x, Status (*kernel)(const One&))
 {
-    for (int32 k = 0; k < x.count; ++k)
-        kernel({x.src1.object(k), x.src2.object(k), x.dst.object(k), x.len});
+    for (int32 k = 0; k < x.count; ++k) kernel({x.src1.object(k), x.src2.object(k), x.dst.object(k), x.len});
     return stsOk;
 }
 

@@ -39,7 +39,8 @@ ZEPM_INLINE Vec<T, N> second(T b, ptrdiff_t)
 template <class T, int N, class Op, class B>
 ZEPM_INLINE void rowTail(Op op, const char* a, B b, char* d, ptrdiff_t j, ptrdiff_t n)
 {
-    if (n - j >= N) {
+    if (n - j >= N)
+    {
         piece<T, N>(op, a + j * sz<T>, second<T, N>(b, j), d + j * sz<T>);
         j += N;
     }
@@ -52,13 +53,13 @@ ZEPM_INLINE void row(Op op, const char* a, B b, char* d, ptrdiff_t n)
 {
     constexpr int W = lanes<T>;
     ptrdiff_t j = 0;
-    for (; j + 4 * W <= n; j += 4 * W) {
+    for (; j + 4 * W <= n; j += 4 * W)
+    {
         ZEPM_UNROLL
         for (int step = 0; step < 4 * W; step += W)
             piece<T, W>(op, a + (j + step) * sz<T>, second<T, W>(b, j + step), d + (j + step) * sz<T>);
     }
-    for (; j + W <= n; j += W)
-        piece<T, W>(op, a + j * sz<T>, second<T, W>(b, j), d + j * sz<T>);
+    for (; j + W <= n; j += W) piece<T, W>(op, a + j * sz<T>, second<T, W>(b, j), d + j * sz<T>);
     if constexpr (W > 1) rowTail<T, W / 2>(op, a, b, d, j, n);
 }
 
@@ -66,10 +67,13 @@ ZEPM_INLINE void row(Op op, const char* a, B b, char* d, ptrdiff_t n)
 template <class T, int Length, int N = lanes<T>, int J = 0, class Op, class B>
 ZEPM_INLINE void rowOf(Op op, const char* a, B b, char* d)
 {
-    if constexpr (Length - J >= N) {
+    if constexpr (Length - J >= N)
+    {
         piece<T, N>(op, a + J * sz<T>, second<T, N>(b, J), d + J * sz<T>);
         rowOf<T, Length, N, J + N>(op, a, b, d);
-    } else if constexpr (Length > J) {
+    }
+    else if constexpr (Length > J)
+    {
         rowOf<T, Length, N / 2, J>(op, a, b, d);
     }
 }

@@ -24,11 +24,13 @@ template <class T, int Length, bool IsConstant, bool IsList, class Op>
 ZEPM_INLINE void objects(Op op, const RowCall& call)
 {
     const RowCall c = call; // the stores cannot change a copy
-    for (ptrdiff_t k = 0; k < c.count; ++k) {
+    for (ptrdiff_t k = 0; k < c.count; ++k)
+    {
         const char* a = object<IsList>(c.a, k);
         const char* b = object<IsList>(c.b, k);
         char* d = const_cast<char*>(object<IsList>(c.d, k));
-        for (ptrdiff_t i = 0; i < c.height; ++i) {
+        for (ptrdiff_t i = 0; i < c.height; ++i)
+        {
             auto along = [&](auto operand) __attribute__((always_inline))
             {
                 if constexpr (Length > 0)
@@ -50,22 +52,17 @@ ZEPM_INLINE void objects(Op op, const RowCall& call)
 template <class T, bool IsConstant, bool IsList, class Op>
 void objectsByLength(Op op, const RowCall& call)
 {
-    switch (call.width) {
-    case 3:
-        return objects<T, 3, IsConstant, IsList>(op, call);
-    case 4:
-        return objects<T, 4, IsConstant, IsList>(op, call);
-    case 5:
-        return objects<T, 5, IsConstant, IsList>(op, call);
-    case 6:
-        return objects<T, 6, IsConstant, IsList>(op, call);
-    default:
-        return objects<T, 0, IsConstant, IsList>(op, call);
+    switch (call.width)
+    {
+    case 3: return objects<T, 3, IsConstant, IsList>(op, call);
+    case 4: return objects<T, 4, IsConstant, IsList>(op, call);
+    case 5: return objects<T, 5, IsConstant, IsList>(op, call);
+    case 6: return objects<T, 6, IsConstant, IsList>(op, call);
+    default: return objects<T, 0, IsConstant, IsList>(op, call);
     }
 }
 
-// ---- Dense objects of few elements
-// -----------------------------------------------------------------------------------
+// ---- Dense objects of few elements ----------------------------------------------------------------------------------
 //
 // As many objects as a register has lanes fill Length registers exactly, whatever the length. In register r of such a
 // group lane n holds element (r * lanes + n) % Length of object (r * lanes + n) / Length.
@@ -88,8 +85,7 @@ struct FixedOperand
     char repeated[Length * registerBytes];
     ZEPM_INLINE explicit FixedOperand(const char* p)
     {
-        for (int k = 0; k < lanes<T>; ++k)
-            __builtin_memcpy(repeated + k * Length * sz<T>, p, Length * sizeof(T));
+        for (int k = 0; k < lanes<T>; ++k) __builtin_memcpy(repeated + k * Length * sz<T>, p, Length * sizeof(T));
     }
     template <int R>
     ZEPM_INLINE Vec<T, lanes<T>> get(ptrdiff_t) const
@@ -120,7 +116,8 @@ struct ConstantOperand
 template <class T, int Length, class Op, class A, class B>
 ZEPM_INLINE void groups(Op op, A a, B b, char* d, ptrdiff_t count)
 {
-    for (ptrdiff_t group = 0; group < count; ++group) {
+    for (ptrdiff_t group = 0; group < count; ++group)
+    {
         a.enterGroup(group);
         b.enterGroup(group);
         [&]<int... R>(std::integer_sequence<int, R...>) __attribute__((always_inline))
@@ -161,27 +158,18 @@ ptrdiff_t denseObjects(Op op, const RowCall& c)
     if (c.isList || c.height != 1 || !dense(c.d, size) || !dense(c.a, size)) return 0;
     if (!dense(c.b, c.isConstant ? sz<T> : size)) return 0;
     const ptrdiff_t count = c.count / lanes<T>;
-    switch (c.width) {
-    case 3:
-        groupsOf<T, 3>(op, c, count);
-        break;
-    case 4:
-        groupsOf<T, 4>(op, c, count);
-        break;
-    case 5:
-        groupsOf<T, 5>(op, c, count);
-        break;
-    case 6:
-        groupsOf<T, 6>(op, c, count);
-        break;
-    default:
-        return 0;
+    switch (c.width)
+    {
+    case 3: groupsOf<T, 3>(op, c, count); break;
+    case 4: groupsOf<T, 4>(op, c, count); break;
+    case 5: groupsOf<T, 5>(op, c, count); break;
+    case 6: groupsOf<T, 6>(op, c, count); break;
+    default: return 0;
     }
     return count * lanes<T>;
 }
 
-// ---- The call
-// --------------------------------------------------------------------------------------------------------
+// ---- The call -------------------------------------------------------------------------------------------------------
 
 // Rows that follow one another without a gap are one row, and so are objects, where the second operand allows it.
 template <class T>
@@ -189,7 +177,8 @@ ZEPM_INLINE RowCall joined(RowCall c)
 {
     const ptrdiff_t rowSize = c.width * sz<T>;
     auto follow = [&](const RowOperand& operand) __attribute__((always_inline)) { return operand.stride1 == rowSize; };
-    if (c.height > 1 && follow(c.a) && follow(c.d) && (c.isConstant || follow(c.b))) {
+    if (c.height > 1 && follow(c.a) && follow(c.d) && (c.isConstant || follow(c.b)))
+    {
         c.width *= c.height;
         c.height = 1;
     }
@@ -198,7 +187,8 @@ ZEPM_INLINE RowCall joined(RowCall c)
     {
         return !operand.isFixed && operand.stride0 == size;
     };
-    if (!c.isList && c.height == 1 && next(c.a) && next(c.d) && (c.isConstant ? c.b.isFixed : next(c.b))) {
+    if (!c.isList && c.height == 1 && next(c.a) && next(c.d) && (c.isConstant ? c.b.isFixed : next(c.b)))
+    {
         c.width *= c.count;
         c.count = 1;
     }
@@ -211,7 +201,8 @@ template <class Op, class T>
 void combineRows(const RowCall& call)
 {
     RowCall c = joined<T>(call);
-    if (c.count >= lanes<T>) {
+    if (c.count >= lanes<T>)
+    {
         const ptrdiff_t done = denseObjects<T>(Op{}, c);
         auto skip = [&](RowOperand & operand) __attribute__((always_inline))
         {

@@ -53,8 +53,7 @@ ZEPM_INLINE Bytes<T> bytes(T* p)
     return reinterpret_cast<Bytes<T>>(p);
 }
 
-// ---- Views
-// -----------------------------------------------------------------------------------------------------------
+// ---- Views ----------------------------------------------------------------------------------------------------------
 
 // Elements of one object at strides; with contiguous elements stride2 is a compile-time fact.
 template <class T, bool Contiguous>
@@ -164,8 +163,7 @@ struct TransposedView
     ZEPM_INLINE auto object(int32 k) const { return TransposedObject<decltype(stored.object(k))>{stored.object(k)}; }
 };
 
-// ---- Blocks
-// ----------------------------------------------------------------------------------------------------------
+// ---- Blocks ---------------------------------------------------------------------------------------------------------
 
 template <class T>
 ZEPM_INLINE bool validStride(int32 stride)
@@ -226,11 +224,7 @@ struct StridedBlock : Block<T>
         share.p = reinterpret_cast<T*>(bytes(p) + static_cast<ptrdiff_t>(first) * stride0);
         return share;
     }
-    ZEPM_INLINE const StridedBlock& object(int32) const
-        requires(!IsArray)
-    {
-        return *this;
-    }
+    ZEPM_INLINE const StridedBlock& object(int32) const requires(!IsArray) { return *this; }
     template <bool Contiguous>
     ZEPM_INLINE auto view(int32) const
     {

@@ -66,10 +66,13 @@ Status forkShares(const X& x, Kernel<X> kernel, int32 numThreads, [[maybe_unused
         X part = x.share(own.first, own.count);
         if constexpr (NeedsScratch<X>) part.pBuffer = scratch + static_cast<size_t>(tid) * x.scratchPerThread();
         const Status result = kernel(part);
-        if constexpr (CanFail<X>) {
+        if constexpr (CanFail<X>)
+        {
 #pragma omp critical
             if (status == stsOk) status = result;
-        } else {
+        }
+        else
+        {
             static_cast<void>(result);
         }
     }
@@ -79,19 +82,23 @@ Status forkShares(const X& x, Kernel<X> kernel, int32 numThreads, [[maybe_unused
 template <class X>
 Status shareObjects(const X& x, Kernel<X> kernel)
 {
-    if constexpr (LightWork<X>) {
+    if constexpr (LightWork<X>)
+    {
         if (x.estimate() < ownGetMinParallelWork()) return kernel(x);
     }
     const int32 numThreads = ownGetNumThreads();
     if (numThreads <= 1 || x.count < numThreads) return kernel(x);
-    if constexpr (NeedsScratch<X>) {
+    if constexpr (NeedsScratch<X>)
+    {
         const size_t bytes = static_cast<size_t>(numThreads) * x.scratchPerThread();
         char* const scratch = static_cast<char*>(omp_alloc(bytes, omp_default_mem_alloc));
         if (!scratch) return kernel(x); // with the caller's own buffer
         const Status status = forkShares(x, kernel, numThreads, scratch);
         omp_free(scratch, omp_default_mem_alloc);
         return status;
-    } else {
+    }
+    else
+    {
         return forkShares(x, kernel, numThreads, nullptr);
     }
 }

@@ -14,8 +14,7 @@ Function parsed(const std::string& name)
     f.name = name;
     std::vector<std::string> parts;
     std::istringstream words(name.substr(4)); // behind "zepm"
-    for (std::string part; std::getline(words, part, '_');)
-        parts.push_back(part);
+    for (std::string part; std::getline(words, part, '_');) parts.push_back(part);
     if (parts.size() < 3) throw std::invalid_argument(name);
     f.operation = parts[0];
     f.form = parts[1];
@@ -23,7 +22,8 @@ Function parsed(const std::string& name)
     if (parts.size() > 3) f.layout = parts[3] == "L" ? Layout::L : Layout::P;
 
     bool anyArray = false;
-    for (size_t n = 0; n < f.form.size(); ++n) {
+    for (size_t n = 0; n < f.form.size(); ++n)
+    {
         const bool isArray = n + 1 < f.form.size() && f.form[n + 1] == 'a';
         f.operands.push_back({"", f.form[n], isArray, false});
         anyArray = anyArray || isArray;
@@ -43,7 +43,8 @@ const std::vector<Function>& allFunctions()
 {
     static const std::vector<Function> functions = [] {
         std::vector<Function> all;
-        for (auto family : {vectorFunctions}) {
+        for (auto family : {vectorFunctions})
+        {
             const std::vector<Function> rows = family();
             std::copy(rows.begin(), rows.end(), std::back_inserter(all));
         }

@@ -42,9 +42,9 @@ void Image::chooseStrides(Strides strides)
     stride2 = sz;
     stride1 = cols * sz;
     stride0 = rows * stride1;
-    switch (strides) {
-    case Strides::Dense:
-        break;
+    switch (strides)
+    {
+    case Strides::Dense: break;
     case Strides::Gapped:
     case Strides::OneGeneral:
         stride1 = (cols + 1 + n) * sz;
@@ -69,9 +69,7 @@ void Image::chooseStrides(Strides strides)
         stride2 = (count + n) * sz;
         stride1 = cols * stride2 + n * sz;
         break;
-    case Strides::Far:
-        stride0 = farStride(sz) - n * sz;
-        break;
+    case Strides::Far: stride0 = farStride(sz) - n * sz; break;
     case Strides::FarElements:
         stride2 = farStride(sz) - n * sz;
         stride0 = (5 + n) * sz;
@@ -86,13 +84,15 @@ void Image::chooseSlots(Strides strides)
     const int entries = isList() ? count : rows * cols;
     const ptrdiff_t objectSize = (rows - 1) * stride1 + (cols - 1) * stride2 + sz;
     ptrdiff_t step = objectSize + (strides == Strides::Dense ? 0 : (1 + number) * sz);
-    if (isTable()) {
+    if (isTable())
+    {
         const bool streams =
             strides == Strides::General || strides == Strides::Across || strides == Strides::OneGeneral;
         step = streams && operand.isArray ? count * stride0 + number * sz : sz;
         if (strides == Strides::FarElements) step = farStride(sz);
     }
-    for (int n = 0; n < entries; ++n) {
+    for (int n = 0; n < entries; ++n)
+    {
         const int shuffled = entries % 7 == 0 ? entries - 1 - n : (n * 7 + 3) % entries;
         slots.push_back((strides == Strides::Dense ? n : shuffled) * step);
     }
@@ -113,8 +113,7 @@ void Image::place(int rows_, int cols_, int count_, Strides strides, Placement p
     ptrdiff_t last = 0;
     for (const int k : {0, count - 1})
         for (const int i : {0, rows - 1})
-            for (const int j : {0, cols - 1})
-                last = std::max(last, offset(k, i, j));
+            for (const int j : {0, cols - 1}) last = std::max(last, offset(k, i, j));
     for (const ptrdiff_t slot : slots)
         last = std::max(last, slot + (isList() ? (rows - 1) * stride1 + (cols - 1) * stride2 : (count - 1) * stride0));
     const size_t extent = static_cast<size_t>(last + sz);
@@ -125,14 +124,12 @@ void Image::place(int rows_, int cols_, int count_, Strides strides, Placement p
     spanBegin = base - std::min(margin, base - arena->begin());
     spanEnd = base + std::min(static_cast<ptrdiff_t>(extent) + margin, arena->end() - base);
     if (strides != Strides::Far && strides != Strides::FarElements)
-        for (char* p = spanBegin; p < spanEnd; ++p)
-            *p = static_cast<char>((p - spanBegin) * 37 + 11 * number + 5);
+        for (char* p = spanBegin; p < spanEnd; ++p) *p = static_cast<char>((p - spanBegin) * 37 + 11 * number + 5);
 
     roiShift = (3 + 2 * number) * sz;
     const size_t entries = slots.size();
     table = reinterpret_cast<const void**>(tableArena->end()) - entries;
-    for (size_t n = 0; n < entries; ++n)
-        table[n] = base + slots[n] - roiShift;
+    for (size_t n = 0; n < entries; ++n) table[n] = base + slots[n] - roiShift;
 }
 
 void Image::placeAt(const Image& other)
@@ -154,10 +151,13 @@ std::vector<NamedArg> Image::args() const
     auto stride = [&](int n, ptrdiff_t value) {
         list.push_back({NamedArg::Stride, operand.name + "Stride" + std::to_string(n), static_cast<int32>(value)});
     };
-    if (isTable() || isList()) {
+    if (isTable() || isList())
+    {
         list.push_back({NamedArg::Pointer, "pp" + upper, static_cast<const void*>(table)});
         list.push_back({NamedArg::Shift, operand.name + "RoiShift", static_cast<int32>(roiShift)});
-    } else {
+    }
+    else
+    {
         list.push_back({NamedArg::Pointer, "p" + upper, static_cast<const void*>(base)});
     }
     if (operand.isArray && !isList()) stride(0, stride0);
@@ -171,11 +171,11 @@ void Image::forbidGaps() const
     std::vector<const char*> elements;
     for (int k = 0; k < count; ++k)
         for (int i = 0; i < rows; ++i)
-            for (int j = 0; j < cols; ++j)
-                elements.push_back(element(k, i, j));
+            for (int j = 0; j < cols; ++j) elements.push_back(element(k, i, j));
     std::sort(elements.begin(), elements.end());
     const char* from = spanBegin;
-    for (const char* const p : elements) {
+    for (const char* const p : elements)
+    {
         if (p > from) forbid(from, static_cast<size_t>(p - from));
         from = p + sz;
     }
@@ -188,7 +188,8 @@ std::string Image::describe(size_t at) const
 {
     for (int k = 0; k < count; ++k)
         for (int i = 0; i < rows; ++i)
-            for (int j = 0; j < cols; ++j) {
+            for (int j = 0; j < cols; ++j)
+            {
                 const ptrdiff_t within =
                     static_cast<ptrdiff_t>(at) - static_cast<ptrdiff_t>(spanOffset(element(k, i, j)));
                 if (within >= 0 && within < sz)

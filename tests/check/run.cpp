@@ -21,19 +21,14 @@ T element(std::mt19937& random, bool mayBeNan)
 {
     const unsigned kind = random() % 64;
     const T sign = random() % 2 ? T(1) : T(-1);
-    switch (kind) {
-    case 0:
-        return sign * T(0);
-    case 1:
-        return sign * std::numeric_limits<T>::infinity();
-    case 2:
-        return sign * std::numeric_limits<T>::denorm_min() * T(random() % 1000);
-    case 3:
-        return sign * std::numeric_limits<T>::max();
-    case 4:
-        return mayBeNan ? std::numeric_limits<T>::quiet_NaN() : sign;
-    default:
-        break;
+    switch (kind)
+    {
+    case 0: return sign * T(0);
+    case 1: return sign * std::numeric_limits<T>::infinity();
+    case 2: return sign * std::numeric_limits<T>::denorm_min() * T(random() % 1000);
+    case 3: return sign * std::numeric_limits<T>::max();
+    case 4: return mayBeNan ? std::numeric_limits<T>::quiet_NaN() : sign;
+    default: break;
     }
     const T fraction = T(1) + T(random()) / T(4294967296.0);
     return sign * std::ldexp(fraction, static_cast<int>(random() % 40) - 20);
@@ -52,8 +47,7 @@ std::string Case::describe() const
 {
     std::ostringstream out;
     out << "sizes";
-    for (const int size : sizes)
-        out << ' ' << size;
+    for (const int size : sizes) out << ' ' << size;
     out << ", count " << count << ", strides " << nameOf(strides);
     if (placement.atEnd)
         out << ", flush against the page behind";
@@ -74,26 +68,27 @@ void Trial::fill(const Case& chosen)
 {
     std::mt19937 random(chosen.seed);
     Problem<T> problem{chosen.sizes, chosen.count, {}};
-    for (size_t n = 0; n < images.size(); ++n) {
+    for (size_t n = 0; n < images.size(); ++n)
+    {
         const auto [rows, cols] = function.shape(function.operands[n], chosen.sizes);
         Tensor<T>& tensor = problem.operands.emplace_back();
         tensor = {function.operands[n].isArray ? chosen.count : 1, rows, cols, {}};
         tensor.elements.resize(static_cast<size_t>(tensor.count) * static_cast<size_t>(rows * cols));
         if (function.operands[n].isDst) continue;
-        for (T& x : tensor.elements)
-            x = element<T>(random, n == 0);
-        if (function.operands[n].letter == 'c' && !function.operands[n].isArray) {
+        for (T& x : tensor.elements) x = element<T>(random, n == 0);
+        if (function.operands[n].letter == 'c' && !function.operands[n].isArray)
+        {
             constant = static_cast<double>(tensor.elements[0]);
             continue;
         }
         for (int k = 0; k < tensor.count; ++k)
             for (int i = 0; i < rows; ++i)
-                for (int j = 0; j < cols; ++j)
-                    std::memcpy(images[n].element(k, i, j), &tensor.at(k, i, j), sizeof(T));
+                for (int j = 0; j < cols; ++j) std::memcpy(images[n].element(k, i, j), &tensor.at(k, i, j), sizeof(T));
     }
     std::get<std::function<void(Problem<T>&)>>(function.reference)(problem);
     expected.clear();
-    for (size_t n = 0; n < images.size(); ++n) {
+    for (size_t n = 0; n < images.size(); ++n)
+    {
         expected.emplace_back();
         if (!function.operands[n].isDst) continue;
         const char* const p = reinterpret_cast<const char*>(problem.operands[n].elements.data());
@@ -106,7 +101,8 @@ void Trial::prepare(const Case& chosen)
     count = chosen.count;
     sizes = chosen.sizes;
     isFar = chosen.strides == Strides::Far || chosen.strides == Strides::FarElements;
-    for (size_t n = 0; n < images.size(); ++n) {
+    for (size_t n = 0; n < images.size(); ++n)
+    {
         const auto [rows, cols] = function.shape(function.operands[n], chosen.sizes);
         Placement placement = chosen.placement;
         if (!placement.atEnd && placement.offset > 0) placement.offset = (placement.offset + 5 * n) % 16;
@@ -120,26 +116,27 @@ void Trial::prepare(const Case& chosen)
     else
         fill<float64>(chosen);
     before.clear();
-    for (const Image& image : images)
-        before.push_back(isFar ? std::vector<char>() : image.bytes());
+    for (const Image& image : images) before.push_back(isFar ? std::vector<char>() : image.bytes());
 }
 
 std::vector<NamedArg> Trial::args() const
 {
     std::vector<NamedArg> list;
-    for (const std::string& item : function.items) {
+    for (const std::string& item : function.items)
+    {
         bool isOperand = false;
         for (const Image& image : images)
-            if (image.operand.name == item) {
+            if (image.operand.name == item)
+            {
                 isOperand = true;
                 if (image.operand.letter == 'c' && !image.operand.isArray)
                     list.push_back({NamedArg::Value, "val", constant});
                 else
-                    for (NamedArg& arg : image.args())
-                        list.push_back(arg);
+                    for (NamedArg& arg : image.args()) list.push_back(arg);
             }
         if (isOperand) continue;
-        if (item == "count") {
+        if (item == "count")
+        {
             list.push_back({NamedArg::Count, item, count});
             continue;
         }
@@ -152,26 +149,24 @@ std::vector<NamedArg> Trial::args() const
 std::vector<Arg> Trial::values(const std::vector<NamedArg>& args)
 {
     std::vector<Arg> list;
-    for (const NamedArg& arg : args)
-        list.push_back(arg.value);
+    for (const NamedArg& arg : args) list.push_back(arg.value);
     return list;
 }
 
 Status Trial::call(const std::vector<Arg>& args) const
 {
     if (!isFar)
-        for (const Image& image : images)
-            image.forbidGaps();
+        for (const Image& image : images) image.forbidGaps();
     const Status status = function.call(args);
     if (!isFar)
-        for (const Image& image : images)
-            image.allowGaps();
+        for (const Image& image : images) image.allowGaps();
     return status;
 }
 
 std::string Trial::differenceFrom(const std::vector<std::vector<char>>& wanted) const
 {
-    for (size_t n = 0; n < images.size(); ++n) {
+    for (size_t n = 0; n < images.size(); ++n)
+    {
         const std::vector<char> now = images[n].bytes();
         for (size_t at = 0; at < now.size(); ++at)
             if (now[at] != wanted[n][at]) return images[n].operand.name + ": " + images[n].describe(at) + " differs";
@@ -183,7 +178,8 @@ std::string Trial::difference() const
 {
     const size_t sz = function.isFloat32 ? 4 : 8;
     std::vector<std::vector<char>> wanted = before;
-    for (size_t n = 0; n < images.size(); ++n) {
+    for (size_t n = 0; n < images.size(); ++n)
+    {
         if (!function.operands[n].isDst) continue;
         const auto [rows, cols] = function.shape(function.operands[n], sizes);
         const char* from = expected[n].data();
@@ -206,7 +202,8 @@ std::string Trial::change() const { return differenceFrom(before); }
 std::string Trial::differenceOfElements() const
 {
     const size_t sz = function.isFloat32 ? 4 : 8;
-    for (size_t n = 0; n < images.size(); ++n) {
+    for (size_t n = 0; n < images.size(); ++n)
+    {
         if (!function.operands[n].isDst) continue;
         const auto [rows, cols] = function.shape(function.operands[n], sizes);
         const char* from = expected[n].data();

@@ -9,25 +9,27 @@ namespace check
 namespace
 {
 
-template <class T>
-T combined(char operation, T a, T b)
-{
-    return operation == '+' ? a + b : a - b;
-}
-
-// d[k][j] = first[k][j] (+ or -) second[k][j], the operands in the order of the name; constants have one column.
-template <class T>
-void combine(Problem<T>& problem, char operation, bool constantFirst)
+// d[k][j] = operation(first[k][j], second[k][j]), first and second in the order of the name; a constant has one column.
+template <class Operation, class T>
+void combine(Problem<T>& problem, bool constantFirst)
 {
     const Tensor<T>& a = problem.operands[0];
     const Tensor<T>& b = problem.operands[1];
     Tensor<T>& d = problem.operands[2];
     for (int k = 0; k < problem.count; ++k)
-        for (int j = 0; j < d.cols; ++j) {
+        for (int j = 0; j < d.cols; ++j)
+        {
             const T x = a.at(k, 0, j);
             const T y = b.at(k, 0, b.cols == 1 ? 0 : j);
-            d.at(k, 0, j) = constantFirst ? combined(operation, y, x) : combined(operation, x, y);
+            d.at(k, 0, j) = constantFirst ? Operation{}(y, x) : Operation{}(x, y);
         }
+}
+
+template <class T>
+std::function<void(Problem<T>&)> reference(const std::string& operation, bool constantFirst)
+{
+    if (operation == "Add") return [=](Problem<T>& problem) { combine<std::plus<T>>(problem, constantFirst); };
+    return [=](Problem<T>& problem) { combine<std::minus<T>>(problem, constantFirst); };
 }
 
 struct Form
@@ -71,34 +73,33 @@ const std::map<std::string, Narrowed> narrowed = {
 Function completed(Function f)
 {
     const Form& form = forms.at(f.form);
-    for (const Operand& operand : f.operands)
-        f.items.push_back(operand.name);
+    for (const Operand& operand : f.operands) f.items.push_back(operand.name);
     f.items.push_back("len");
     if (f.isArray()) f.items.push_back("count");
     f.sizeNames = {"len"};
-    for (const int len : {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 16, 17, 33})
-        f.sizesToTry.push_back({len});
+    for (const int len : {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 16, 17, 33}) f.sizesToTry.push_back({len});
     f.shape = [](const Operand& operand, const std::vector<int>& sizes) {
         return std::pair(1, operand.letter == 'c' ? 1 : sizes[0]);
     };
     f.order = f.layout == Layout::S ? form.orderS : f.layout == Layout::L ? form.orderL : form.orderP;
-    if (const auto found = narrowed.find(f.name); found != narrowed.end()) {
+    if (const auto found = narrowed.find(f.name); found != narrowed.end())
+    {
         f.order = found->second.order;
         f.untested = found->second.untested;
     }
-    if (form.estimate) {
+    if (form.estimate)
+    {
         const int32 limit = limits[f.isFloat32 ? 0 : 1][static_cast<int>(f.layout)] - (f.form == "cva" ? 1 : 0);
         f.limits = {limit, limit};
         f.estimate = [estimate = form.estimate](const std::vector<int>& sizes, int32 count) {
             return estimate(sizes[0], count);
         };
     }
-    const char operation = f.operation == "Add" ? '+' : '-';
     const bool constantFirst = f.form[0] == 'c';
     if (f.isFloat32)
-        f.reference = [=](Problem<float32>& problem) { combine(problem, operation, constantFirst); };
+        f.reference = reference<float32>(f.operation, constantFirst);
     else
-        f.reference = [=](Problem<float64>& problem) { combine(problem, operation, constantFirst); };
+        f.reference = reference<float64>(f.operation, constantFirst);
     f.worksInPlace = true;
     return f;
 }

@@ -51,7 +51,8 @@ struct Failing
 
 Status failingKernel(const Failing& x)
 {
-    for (int32 k = x.first; k < x.first + x.count; ++k) {
+    for (int32 k = x.first; k < x.first + x.count; ++k)
+    {
         ++x.met[k];
         if (k == x.failsAt) return stsSingularErr;
     }
@@ -72,8 +73,7 @@ struct WithScratch
 
 Status scratchKernel(const WithScratch& x)
 {
-    for (size_t n = 0; n < x.scratchPerThread(); ++n)
-        x.pBuffer[n] = static_cast<char>(n);
+    for (size_t n = 0; n < x.scratchPerThread(); ++n) x.pBuffer[n] = static_cast<char>(n);
 #pragma omp critical
     x.buffers->insert(x.pBuffer);
     return stsOk;
@@ -84,9 +84,11 @@ Status scratchKernel(const WithScratch& x)
 TEST(Shares, TileTheArray)
 {
     for (int32 threads = 1; threads <= 9; ++threads)
-        for (int32 count = threads; count < 40; ++count) {
+        for (int32 count = threads; count < 40; ++count)
+        {
             int32 next = 0;
-            for (int32 tid = 0; tid < threads; ++tid) {
+            for (int32 tid = 0; tid < threads; ++tid)
+            {
                 const Share share = shareOf(tid, count / threads, count % threads);
                 EXPECT_EQ(share.first, next);
                 EXPECT_EQ(share.count, count / threads + (tid < count % threads ? 1 : 0));
@@ -103,14 +105,11 @@ TEST(Drivers, AFailureStopsItsShareAlone)
     threadsToUse = 4;
     std::array<std::atomic<int>, 10> met{};
     EXPECT_EQ(shareObjects(Failing{met.data(), 0, 10, 3}, failingKernel), stsSingularErr);
-    for (int k = 0; k < 10; ++k)
-        EXPECT_EQ(met[static_cast<size_t>(k)], k == 4 || k == 5 ? 0 : 1) << k;
+    for (int k = 0; k < 10; ++k) EXPECT_EQ(met[static_cast<size_t>(k)], k == 4 || k == 5 ? 0 : 1) << k;
 
-    for (auto& times : met)
-        times = 0;
+    for (auto& times : met) times = 0;
     EXPECT_EQ(shareObjects(Failing{met.data(), 0, 10, -1}, failingKernel), stsOk);
-    for (auto& times : met)
-        EXPECT_EQ(times, 1);
+    for (auto& times : met) EXPECT_EQ(times, 1);
 }
 
 TEST(Drivers, SerialWithFewerObjectsThanThreads)

@@ -1,0 +1,131 @@
+#!/usr/bin/env python3
+"""Prints ratios of medians from the JSON files of bench/run.
+
+For each case: the library's time, the best peer's time divided by it, and where plain copies of the same number of bytes
+were timed, its bandwidth divided by theirs. For the fork benchmark: two threads' time divided by one's.
+A ratio below its aim is marked with <; a spread is the standard deviation in percent of the mean, ours and the peer's.
+"""
+import argparse
+import json
+import subprocess
+import sys
+from collections import defaultdict
+
+PEER_AIM, COPY_AIM, FORK_AIM = 0.95, 0.9, 1.1
+
+
+class Times:
+    """The medians of one file, by case and contender, and what went wrong."""
+
+    def __init__(self, path):
+        with open(path, encoding="utf-8") as file:
+            data = json.load(file)
+        self.context = data["context"]
+        self.cases = defaultdict(dict)
+        self.spread = defaultdict(dict)
+        self.failed = []
+        for run in sorted(data["benchmarks"], key=lambda run: run["family_index"]):  # they ran interleaved
+            name = run["run_name"]
+            for ending in ("/real_time", "/manual_time"):
+                name = name.removesuffix(ending)
+            name = name.split("/iterations:")[0]
+            case, contender = name.rsplit("/", 1)
+            if run.get("error_occurred"):
+                if run["run_name"] not in self.failed:
+                    self.failed.append(run["run_name"])
+            elif run.get("aggregate_name") == "median":
+                # One thread's own time; for several threads, the clock's.
+                clock = "real_time" if contender.startswith("threads:") else "cpu_time"
+                self.cases[case][contender] = run[clock]
+                if "work" in run:
+                    self.cases[case]["work"] = run["work"]
+            elif run.get("aggregate_name") == "cv":
+                self.spread[case][contender] = 100 * run["cpu_time"]
+
+
+def time_text(nanoseconds):
+    for unit, factor in (("ns", 1), ("us", 1e3), ("ms", 1e6)):
+        if nanoseconds < 1000 * factor:
+            break
+    return f"{nanoseconds / factor:.1f} {unit}"
+
+
+def ratio_text(ratio, misses):
+    return f"{ratio:7.2f}{'<' if misses else ' '}"
+
+
+def print_families(title, times, misses_only):
+    rows = []
+    for case, contenders in times.cases.items():
+        if "zepm" not in contenders:
+            continue
+        ours = contenders["zepm"]
+        peers = {name: t for name, t in contenders.items() if name != "zepm" and not name.startswith("copy_")}
+        copies = [contenders.get(f"copy_{way}") for way in ("memcpy", "loop")]
+        cells, misses = "", False
+        if peers:
+            best = min(peers, key=peers.get)
+            misses = peers[best] / ours < PEER_AIM
+            cells += ratio_text(peers[best] / ours, misses) + f" {best:<14}"
+            cells += f" {times.spread[case].get('zepm', 0):3.0f} {times.spread[case].get(best, 0):3.0f} %"
+        if all(copies):
+            slow = copies[1] / ours < COPY_AIM
+            misses = misses or slow
+            cells += ratio_text(copies[0] / ours, copies[0] / ours < COPY_AIM) + ratio_text(copies[1] / ours, slow)
+        if misses or not misses_only:
+            rows.append(f"{case:<44}{time_text(ours):>10}  {cells}")
+    if rows:
+        print(f"\n{title}")
+        print(f"{'case':<44}{'zepm':>10}  {'peer/zepm':>8} {'best peer':<14} {'spread':>9}   memcpy    loop")
+        print("\n".join(rows))
+
+
+def print_forks(times, misses_only):
+    worst = {}
+    rows = []
+    for case, contenders in times.cases.items():
+        if "threads:1" not in contenders or "threads:2" not in contenders:
+            continue
+        ratio = contenders["threads:2"] / contenders["threads:1"]
+        mode = case.split("/")[0]
+        worst[mode] = max(worst.get(mode, (0, "")), (ratio, case))
+        misses = ratio > FORK_AIM
+        if misses or not misses_only:
+            rows.append(f"{case:<44}{contenders.get('work', 0):>12.0f}{time_text(contenders['threads:1']):>11}"
+                        f"{time_text(contenders['threads:2']):>11}{ratio:8.2f}{'<' if misses else ''}")
+    if rows:
+        print(f"\n{'two threads against one':<44}{'work':>12}{'one':>11}{'two':>11}{'two/one':>8}")
+        print("\n".join(rows))
+    for mode, (ratio, case) in worst.items():
+        print(f"worst of {mode}: {ratio:.2f} at {case}")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--misses", action="store_true", help="print only what misses its aim")
+    parser.add_argument("files", nargs="+", metavar="JSON")
+    arguments = parser.parse_args()
+    machine = [line.split(":", 1)[1].strip() for line in subprocess.run(["lscpu"], capture_output=True, text=True,
+               check=False).stdout.splitlines() if line.startswith("Model name")]
+    failed = []
+    for number, path in enumerate(arguments.files):
+        try:
+            times = Times(path)
+        except (json.JSONDecodeError, KeyError):
+            print(f"{path}: no results (skipped, or no name matched)")
+            continue
+        context = times.context
+        if number == 0:
+            print(f"machine: {', '.join(machine)}, {context['num_cpus']} processors; date: {context['date']}")
+        title = (f"level {context.get('level')}, peers compiled for {context.get('peers')}, load "
+                 f"{context['load_avg'][0]:.1f} at the start")
+        print_families(title, times, arguments.misses)
+        print_forks(times, arguments.misses)
+        failed += times.failed
+    for name in failed:
+        print(f"FAILED: {name}")
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
