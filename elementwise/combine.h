@@ -67,27 +67,27 @@ ZEPM_INLINE void combineViews(Op op, const A& a, const B& b, const D& d, int32 l
 template <class T, bool IsArray, int Rank>
 ZEPM_INLINE RowOperand rowsOf(const StridedBlock<T, IsArray, Rank>& block)
 {
-    return {bytes(block.p), block.stride0, block.stride1, !IsArray};
+    return {bytes(block.p), block.stride0, !IsArray};
 }
 template <class T, int Rank>
 ZEPM_INLINE RowOperand rowsOf(const ListBlock<T, Rank>& block)
 {
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift, block.stride1, false};
+    return {reinterpret_cast<const char*>(block.pp), block.roiShift, false};
 }
 template <class T>
 ZEPM_INLINE RowOperand rowsOf(const ConstantBlock<T>& block)
 {
-    return {bytes(&block.val), 0, 0, true};
+    return {bytes(&block.val), 0, true};
 }
 template <class T>
 ZEPM_INLINE RowOperand rowsOf(const ConstantArrayBlock<T>& block)
 {
-    return {bytes(block.p), block.stride0, 0, false};
+    return {bytes(block.p), block.stride0, false};
 }
 template <class T>
 ZEPM_INLINE RowOperand rowsOf(const ConstantListBlock<T>& block)
 {
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift, 0, false};
+    return {reinterpret_cast<const char*>(block.pp), block.roiShift, false};
 }
 
 template <class>
@@ -122,7 +122,7 @@ ZEPM_INLINE RowOperand rowAcross(const Block& block, int32 j)
     if constexpr (isConstantBlock<Block>)
         return rowsOf(block);
     else
-        return {block.template view<false>(0).object(0).at(0, j), 0, 0, true};
+        return {block.template view<false>(0).object(0).at(0, j), 0, true};
 }
 
 template <class Op, class X>
@@ -136,9 +136,9 @@ ZEPM_INLINE void combineAcross(Op op, const X& x)
     {
         const RowOperand a = rowAcross(x.src1, j), b = rowAcross(x.src2, j), d = rowAcross(x.dst, j);
         if constexpr (flips)
-            combineRows<decltype(flipped(op)), T>({b, a, d, isConstant, false, x.count, 1, 1});
+            combineRows<decltype(flipped(op)), T>({b, a, d, isConstant, false, x.count, 1});
         else
-            combineRows<Op, T>({a, b, d, isConstant, false, x.count, 1, 1});
+            combineRows<Op, T>({a, b, d, isConstant, false, x.count, 1});
     }
 }
 
@@ -179,7 +179,7 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
     bool isApart = x.len > 6 && apart(a);
     if constexpr (!isConstant) isApart = isApart && apart(b);
     if (isApart)
-        combineRows<Op, T>({rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst), isConstant, false, x.len, 1, 1});
+        combineRows<Op, T>({rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst), isConstant, false, x.len, 1});
     else
         combineObject(op, x.src1.template view<true>(0).object(0), x.src2.template view<true>(0).object(0),
                       x.dst.template view<true>(0).object(0), x.len);
@@ -192,8 +192,7 @@ ZEPM_INLINE Status combinePacked(Op op, const X& x)
     using Dst = decltype(x.dst);
     if constexpr (Dst::isArray)
         combineRows<Op, typename Dst::Element>({rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst),
-                                                isConstantBlock<decltype(x.src2)>, isListBlock<Dst>, x.len, 1,
-                                                x.count});
+                                                isConstantBlock<decltype(x.src2)>, isListBlock<Dst>, x.len, x.count});
     else
         combineVector(op, x);
     return stsOk;

@@ -10,24 +10,11 @@ namespace zepm::ZEPM_LEVEL
 template <class T>
 inline constexpr ptrdiff_t sz = sizeof(T);
 
-// N elements at once; a constant second operand is already broadcast.
-template <class T, int N, class Op>
-ZEPM_INLINE void piece(Op op, const char* a, const char* b, char* d)
-{
-    storeVec<T, N>(d, op(loadVec<T, N>(a), loadVec<T, N>(b)));
-}
-
-template <class T, int N, class Op>
-ZEPM_INLINE void piece(Op op, const char* a, Vec<T, N> b, char* d)
-{
-    storeVec<T, N>(d, op(loadVec<T, N>(a), b));
-}
-
-// The second operand of a row at element j: further along, or the one constant.
+// The second operand of a row at element j: the elements there, or the one constant.
 template <class T, int N>
-ZEPM_INLINE const char* second(const char* b, ptrdiff_t j)
+ZEPM_INLINE Vec<T, N> second(const char* b, ptrdiff_t j)
 {
-    return b + j * sz<T>;
+    return loadVec<T, N>(b + j * sz<T>);
 }
 template <class T, int N>
 ZEPM_INLINE Vec<T, N> second(T b, ptrdiff_t)
@@ -35,47 +22,82 @@ ZEPM_INLINE Vec<T, N> second(T b, ptrdiff_t)
     return broadcast<T, N>(b);
 }
 
-// The last elements of a row, fewer than 2 * N: by halves.
+// N results at element j.
+template <class T, int N, class Op, class B>
+ZEPM_INLINE Vec<T, N> results(Op op, const char* a, B b, ptrdiff_t j)
+{
+    return op(loadVec<T, N>(a + j * sz<T>), second<T, N>(b, j));
+}
+
+template <class T, int N, class Op, class B>
+ZEPM_INLINE void piece(Op op, const char* a, B b, char* d, ptrdiff_t j)
+{
+    storeVec<T, N>(d + j * sz<T>, results<T, N>(op, a, b, j));
+}
+
+// Elements j to n - 1, fewer than 2 * N: by halves.
 template <class T, int N, class Op, class B>
 ZEPM_INLINE void rowTail(Op op, const char* a, B b, char* d, ptrdiff_t j, ptrdiff_t n)
 {
     if (n - j >= N)
     {
-        piece<T, N>(op, a + j * sz<T>, second<T, N>(b, j), d + j * sz<T>);
+        piece<T, N>(op, a, b, d, j);
         j += N;
     }
     if constexpr (N > 1) rowTail<T, N / 2>(op, a, b, d, j, n);
 }
 
-// A row of any length; B is a pointer to a row or a constant.
-template <class T, class Op, class B>
+// A row that repays aligning its stores: one that crosses a cache line costs two.
+template <class T>
+inline constexpr ptrdiff_t longRow = 1024 / sizeof(T);
+
+// A row of any length. Streams writes past the caches; the destination is then a multiple of the element size.
+template <class T, bool Streams = false, class Op, class B>
 ZEPM_INLINE void row(Op op, const char* a, B b, char* d, ptrdiff_t n)
 {
     constexpr int W = lanes<T>;
     ptrdiff_t j = 0;
+    if (Streams || n >= longRow<T>)
+    {
+        j = static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(d) % registerBytes) / sz<T>;
+        rowTail<T, W / 2>(op, a, b, d, 0, j);
+    }
     for (; j + 4 * W <= n; j += 4 * W)
     {
         ZEPM_UNROLL
         for (int step = 0; step < 4 * W; step += W)
-            piece<T, W>(op, a + (j + step) * sz<T>, second<T, W>(b, j + step), d + (j + step) * sz<T>);
+        {
+            if constexpr (Streams)
+                streamVec<T>(d + (j + step) * sz<T>, results<T, W>(op, a, b, j + step));
+            else
+                piece<T, W>(op, a, b, d, j + step);
+        }
     }
-    for (; j + W <= n; j += W) piece<T, W>(op, a + j * sz<T>, second<T, W>(b, j), d + j * sz<T>);
-    if constexpr (W > 1) rowTail<T, W / 2>(op, a, b, d, j, n);
+    if constexpr (Streams) fenceStreams();
+    for (; j + W <= n; j += W) piece<T, W>(op, a, b, d, j);
+    rowTail<T, W / 2>(op, a, b, d, j, n);
 }
 
-// A row whose length is known: straight-line code.
-template <class T, int Length, int N = lanes<T>, int J = 0, class Op, class B>
-ZEPM_INLINE void rowOf(Op op, const char* a, B b, char* d)
+// The pieces of a row whose length is known, widest first: visit.operator()<N, J>() for N elements from element J.
+template <class T, int Length, int N = lanes<T>, int J = 0, class Visit>
+ZEPM_INLINE void pieces(Visit visit)
 {
     if constexpr (Length - J >= N)
     {
-        piece<T, N>(op, a + J * sz<T>, second<T, N>(b, J), d + J * sz<T>);
-        rowOf<T, Length, N, J + N>(op, a, b, d);
+        visit.template operator()<N, J>();
+        pieces<T, Length, N, J + N>(visit);
     }
     else if constexpr (Length > J)
     {
-        rowOf<T, Length, N / 2, J>(op, a, b, d);
+        pieces<T, Length, N / 2, J>(visit);
     }
+}
+
+// A row whose length is known: straight-line code.
+template <class T, int Length, class Op, class B>
+ZEPM_INLINE void rowOf(Op op, const char* a, B b, char* d)
+{
+    pieces<T, Length>([&]<int N, int J>() __attribute__((always_inline)) { piece<T, N>(op, a, b, d, J); });
 }
 
 } // namespace zepm::ZEPM_LEVEL

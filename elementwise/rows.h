@@ -8,24 +8,22 @@
 namespace zepm
 {
 
-// Where the rows of one operand lie: object k at p + k * stride0 or, in a list, at entry k of the table p plus stride0.
-// A fixed operand, the same for every object, is never a list.
+// Where the rows of one operand lie, one for each object: row k at p + k * stride or, in a list, at entry k of the
+// table p plus stride. A fixed operand, the same for every object, is never a list.
 struct RowOperand
 {
     const char* p;
-    ptrdiff_t stride0;
-    ptrdiff_t stride1;
+    ptrdiff_t stride;
     bool isFixed;
 };
 
-// d = op(a, b) on count objects of height rows of width elements.
+// d = op(a, b) on count rows of width elements.
 struct RowCall
 {
-    RowOperand a, b;
-    RowOperand d;
-    bool isConstant; // b is one element for each object (stride0), or one for all (fixed)
+    RowOperand a, b, d;
+    bool isConstant; // b is one element for each row, or a fixed one for all
     bool isList;
-    ptrdiff_t width, height, count;
+    ptrdiff_t width, count;
 };
 
 #define ZEPM_DECLARE_LEVEL(level)                                                                                      \

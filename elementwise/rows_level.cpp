@@ -9,212 +9,276 @@ namespace zepm::ZEPM_LEVEL
 namespace
 {
 
-template <bool IsList>
-ZEPM_INLINE const char* object(const RowOperand& operand, ptrdiff_t k)
-{
-    if (operand.isFixed) return operand.p;
-    if constexpr (IsList)
-        return load<const char*>(operand.p + k * static_cast<ptrdiff_t>(sizeof(char*))) + operand.stride0;
-    else
-        return operand.p + k * operand.stride0;
-}
+// ---- Where the rows lie ---------------------------------------------------------------------------------------------
 
-// Object by object, row by row; Length 0 is any length.
-template <class T, int Length, bool IsConstant, bool IsList, class Op>
-ZEPM_INLINE void objects(Op op, const RowCall& call)
+struct Stepping
 {
-    const RowCall c = call; // the stores cannot change a copy
-    for (ptrdiff_t k = 0; k < c.count; ++k)
+    const char* p;
+    ptrdiff_t stride;
+    ZEPM_INLINE explicit Stepping(const RowOperand& operand)
+        : p(operand.p), stride(operand.isFixed ? 0 : operand.stride)
     {
-        const char* a = object<IsList>(c.a, k);
-        const char* b = object<IsList>(c.b, k);
-        char* d = const_cast<char*>(object<IsList>(c.d, k));
-        for (ptrdiff_t i = 0; i < c.height; ++i)
-        {
-            auto along = [&](auto operand) __attribute__((always_inline))
-            {
-                if constexpr (Length > 0)
-                    rowOf<T, Length>(op, a, operand, d);
-                else
-                    row<T>(op, a, operand, d, c.width);
-            };
-            if constexpr (IsConstant)
-                along(load<T>(b));
-            else
-                along(b);
-            a += c.a.stride1;
-            if constexpr (!IsConstant) b += c.b.stride1;
-            d += c.d.stride1;
-        }
     }
-}
+    ZEPM_INLINE const char* at() const { return p; }
+    ZEPM_INLINE void next() { p += stride; }
+};
 
-template <class T, bool IsConstant, bool IsList, class Op>
-void objectsByLength(Op op, const RowCall& call)
+struct Listed
 {
-    switch (call.width)
-    {
-    case 3: return objects<T, 3, IsConstant, IsList>(op, call);
-    case 4: return objects<T, 4, IsConstant, IsList>(op, call);
-    case 5: return objects<T, 5, IsConstant, IsList>(op, call);
-    case 6: return objects<T, 6, IsConstant, IsList>(op, call);
-    default: return objects<T, 0, IsConstant, IsList>(op, call);
-    }
-}
+    const char* entry;
+    ptrdiff_t shift;
+    ZEPM_INLINE explicit Listed(const RowOperand& operand) : entry(operand.p), shift(operand.stride) {}
+    ZEPM_INLINE const char* at() const { return load<const char*>(entry) + shift; }
+    ZEPM_INLINE void next() { entry += sizeof(char*); }
+};
 
-// ---- Dense objects of few elements ----------------------------------------------------------------------------------
+// ---- What the operation takes from them -----------------------------------------------------------------------------
 //
-// As many objects as a register has lanes fill Length registers exactly, whatever the length. In register r of such a
-// group lane n holds element (r * lanes + n) % Length of object (r * lanes + n) / Length.
+// A source gives its row as a whole, for rows of any length, or N elements from element J of it, for rows of a known
+// one.
 
-template <class T, int Length>
-struct StreamedOperand
+// The elements of each row.
+template <class T, class Rows>
+struct Elements
 {
-    const char* p;
-    template <int R>
-    ZEPM_INLINE Vec<T, lanes<T>> get(ptrdiff_t group) const
+    Rows rows;
+    const char* p = nullptr;
+    ZEPM_INLINE void enter() { p = rows.at(); }
+    ZEPM_INLINE void next() { rows.next(); }
+    ZEPM_INLINE const char* whole() const { return p; }
+    template <int N, int J>
+    ZEPM_INLINE Vec<T, N> get() const
     {
-        return loadVec<T, lanes<T>>(p + (group * Length + R) * registerBytes);
+        return loadVec<T, N>(p + J * sz<T>);
     }
-    ZEPM_INLINE void enterGroup(ptrdiff_t) {}
 };
 
-template <class T, int Length>
-struct FixedOperand
+// A constant for each row, or one for all.
+template <class T, class Rows>
+struct Constants
 {
-    char repeated[Length * registerBytes];
-    ZEPM_INLINE explicit FixedOperand(const char* p)
+    Rows rows;
+    T value{};
+    ZEPM_INLINE void enter() { value = load<T>(rows.at()); }
+    ZEPM_INLINE void next() { rows.next(); }
+    ZEPM_INLINE T whole() const { return value; }
+    template <int N, int>
+    ZEPM_INLINE Vec<T, N> get() const
     {
-        for (int k = 0; k < lanes<T>; ++k) __builtin_memcpy(repeated + k * Length * sz<T>, p, Length * sizeof(T));
+        return broadcast<T, N>(value);
     }
-    template <int R>
-    ZEPM_INLINE Vec<T, lanes<T>> get(ptrdiff_t) const
+};
+template <class T>
+struct OneConstant
+{
+    T value;
+    ZEPM_INLINE void enter() {}
+    ZEPM_INLINE void next() {}
+    ZEPM_INLINE T whole() const { return value; }
+    template <int N, int>
+    ZEPM_INLINE Vec<T, N> get() const
     {
-        return loadVec<T, lanes<T>>(repeated + R * registerBytes);
+        return broadcast<T, N>(value);
     }
-    ZEPM_INLINE void enterGroup(ptrdiff_t) {}
 };
 
+// The elements of a fixed row of a known length, over and over: held in registers, as many as there are.
+template <class T, int Length, int Repeated = 1>
+struct Held
+{
+    T held[Length * Repeated];
+    ZEPM_INLINE explicit Held(const char* p)
+    {
+        for (int n = 0; n < Repeated; ++n) __builtin_memcpy(held + n * Length, p, Length * sizeof(T));
+    }
+    ZEPM_INLINE void enter() {}
+    ZEPM_INLINE void next() {}
+    template <int N, int J>
+    ZEPM_INLINE Vec<T, N> get() const
+    {
+        return loadVec<T, N>(reinterpret_cast<const char*>(held + J));
+    }
+};
+
+// Constants that lie side by side, each for Length elements: a register of them for as many rows.
 template <class T, int Length>
-struct ConstantOperand
+struct Spread
 {
     const char* p;
-    Vec<T, lanes<T>> constants;
-    template <int R>
+    Vec<T, lanes<T>> constants{};
+    template <int J>
     struct Place
     {
-        constexpr int operator()(int lane) const { return (R * lanes<T> + lane) / Length; }
+        constexpr int operator()(int lane) const { return (J + lane) / Length; }
     };
-    template <int R>
-    ZEPM_INLINE Vec<T, lanes<T>> get(ptrdiff_t) const
+    ZEPM_INLINE void enter() { constants = loadVec<T, lanes<T>>(p); }
+    ZEPM_INLINE void next() { p += registerBytes; }
+    template <int N, int J>
+    ZEPM_INLINE Vec<T, N> get() const
     {
-        return permute<T, lanes<T>>(constants, Place<R>{});
+        return permute<T, N>(constants, Place<J>{});
     }
-    ZEPM_INLINE void enterGroup(ptrdiff_t group) { constants = loadVec<T, lanes<T>>(p + group * registerBytes); }
 };
 
-template <class T, int Length, class Op, class A, class B>
-ZEPM_INLINE void groups(Op op, A a, B b, char* d, ptrdiff_t count)
+// ---- Loops over the rows --------------------------------------------------------------------------------------------
+
+// Length 0 stands for any length.
+template <class T, int Length, class Op, class A, class B, class D>
+ZEPM_INLINE void rows(Op op, A a, B b, D d, ptrdiff_t width, ptrdiff_t count)
 {
-    for (ptrdiff_t group = 0; group < count; ++group)
+    for (ptrdiff_t k = 0; k < count; ++k)
     {
-        a.enterGroup(group);
-        b.enterGroup(group);
-        [&]<int... R>(std::integer_sequence<int, R...>) __attribute__((always_inline))
-        {
-            (storeVec<T, lanes<T>>(d + (group * Length + R) * registerBytes,
-                                   op(a.template get<R>(group), b.template get<R>(group))),
-             ...);
-        }
-        (std::make_integer_sequence<int, Length>{});
+        a.enter();
+        b.enter();
+        char* const to = const_cast<char*>(d.at());
+        if constexpr (Length > 0)
+            pieces<T, Length>([&]<int N, int J>() __attribute__((always_inline)) {
+                storeVec<T, N>(to + J * sz<T>, op(a.template get<N, J>(), b.template get<N, J>()));
+            });
+        else
+            row<T>(op, a.whole(), b.whole(), to, width);
+        a.next();
+        b.next();
+        d.next();
     }
 }
 
-template <class T, int Length, class Op>
-ZEPM_INLINE void groupsOf(Op op, const RowCall& c, ptrdiff_t count)
+// A fixed row of few elements is held; a longer one is read again for each object.
+template <class T, int Length>
+ZEPM_INLINE auto fixedRow(const RowOperand& operand)
 {
-    using Streamed = StreamedOperand<T, Length>;
-    using Fixed = FixedOperand<T, Length>;
-    char* const d = const_cast<char*>(c.d.p);
-    if (c.isConstant && c.a.isFixed)
-        groups<T, Length>(op, Fixed(c.a.p), ConstantOperand<T, Length>{c.b.p, {}}, d, count);
-    else if (c.isConstant)
-        groups<T, Length>(op, Streamed{c.a.p}, ConstantOperand<T, Length>{c.b.p, {}}, d, count);
-    else if (c.a.isFixed)
-        groups<T, Length>(op, Fixed(c.a.p), Streamed{c.b.p}, d, count);
+    if constexpr (Length > 0)
+        return Held<T, Length>(operand.p);
     else
-        groups<T, Length>(op, Streamed{c.a.p}, Fixed(c.b.p), d, count);
+        return Elements<T, Stepping>{Stepping(operand)};
 }
 
-// The objects that fill whole groups; returns how many they are.
-template <class T, class Op>
-ptrdiff_t denseObjects(Op op, const RowCall& c)
+template <class T, int Length, class Lying, class Op>
+void rowsOf(Op op, const RowCall& c)
 {
-    const ptrdiff_t size = c.width * sz<T>;
-    auto dense = [&](const RowOperand& operand, ptrdiff_t step) __attribute__((always_inline))
+    const Elements<T, Lying> a{Lying(c.a)}, b{Lying(c.b)};
+    const Constants<T, Lying> constants{Lying(c.b)};
+    const Lying d(c.d);
+    if (c.isConstant && c.b.isFixed)
+        rows<T, Length>(op, a, OneConstant<T>{load<T>(c.b.p)}, d, c.width, c.count);
+    else if (c.isConstant && c.a.isFixed)
+        rows<T, Length>(op, fixedRow<T, Length>(c.a), constants, d, c.width, c.count);
+    else if (c.isConstant)
+        rows<T, Length>(op, a, constants, d, c.width, c.count);
+    else if (c.a.isFixed)
+        rows<T, Length>(op, fixedRow<T, Length>(c.a), b, d, c.width, c.count);
+    else if (c.b.isFixed)
+        rows<T, Length>(op, a, fixedRow<T, Length>(c.b), d, c.width, c.count);
+    else
+        rows<T, Length>(op, a, b, d, c.width, c.count);
+}
+
+// Dense rows of few elements: as many of them as a register has lanes are one row of Length whole registers.
+template <class T, int Length, class Op>
+ptrdiff_t groupsOf(Op op, const RowCall& c)
+{
+    constexpr int W = lanes<T>;
+    constexpr ptrdiff_t groupSize = Length * registerBytes;
+    auto streamed = [&](const RowOperand& operand) __attribute__((always_inline))
     {
-        return operand.isFixed || operand.stride0 == step;
+        return Elements<T, Stepping>{Stepping({operand.p, groupSize, false})};
     };
-    if (c.isList || c.height != 1 || !dense(c.d, size) || !dense(c.a, size)) return 0;
-    if (!dense(c.b, c.isConstant ? sz<T> : size)) return 0;
-    const ptrdiff_t count = c.count / lanes<T>;
-    switch (c.width)
-    {
-    case 3: groupsOf<T, 3>(op, c, count); break;
-    case 4: groupsOf<T, 4>(op, c, count); break;
-    case 5: groupsOf<T, 5>(op, c, count); break;
-    case 6: groupsOf<T, 6>(op, c, count); break;
-    default: return 0;
-    }
-    return count * lanes<T>;
+    const Stepping d({c.d.p, groupSize, false});
+    const ptrdiff_t count = c.count / W;
+    if (c.isConstant && c.a.isFixed)
+        rows<T, Length * W>(op, Held<T, Length, W>(c.a.p), Spread<T, Length>{c.b.p}, d, 0, count);
+    else if (c.isConstant)
+        rows<T, Length * W>(op, streamed(c.a), Spread<T, Length>{c.b.p}, d, 0, count);
+    else if (c.a.isFixed)
+        rows<T, Length * W>(op, Held<T, Length, W>(c.a.p), streamed(c.b), d, 0, count);
+    else
+        rows<T, Length * W>(op, streamed(c.a), Held<T, Length, W>(c.b.p), d, 0, count);
+    return count * W;
 }
 
 // ---- The call -------------------------------------------------------------------------------------------------------
 
-// Rows that follow one another without a gap are one row, and so are objects, where the second operand allows it.
-template <class T>
-ZEPM_INLINE RowCall joined(RowCall c)
+ZEPM_INLINE bool isDense(const RowOperand& operand, ptrdiff_t size)
 {
-    const ptrdiff_t rowSize = c.width * sz<T>;
-    auto follow = [&](const RowOperand& operand) __attribute__((always_inline)) { return operand.stride1 == rowSize; };
-    if (c.height > 1 && follow(c.a) && follow(c.d) && (c.isConstant || follow(c.b)))
-    {
-        c.width *= c.height;
-        c.height = 1;
-    }
+    return !operand.isFixed && operand.stride == size;
+}
+
+// Dense operands without a fixed one but a constant are one long row.
+template <class T>
+ZEPM_INLINE bool isOneRow(const RowCall& c)
+{
     const ptrdiff_t size = c.width * sz<T>;
-    auto next = [&](const RowOperand& operand) __attribute__((always_inline))
+    const bool fits = c.isConstant ? c.b.isFixed : c.count == 1 || isDense(c.b, size);
+    return !c.isList && fits && (c.count == 1 || (isDense(c.a, size) && isDense(c.d, size)));
+}
+
+// Whether dense rows may go in groups.
+template <class T>
+ZEPM_INLINE bool isGrouped(const RowCall& c)
+{
+    const ptrdiff_t size = c.width * sz<T>;
+    return !c.isList && c.count >= lanes<T> && isDense(c.d, size) && (c.a.isFixed || isDense(c.a, size)) &&
+           (c.isConstant ? isDense(c.b, sz<T>) : c.b.isFixed || isDense(c.b, size));
+}
+
+// A row beyond the largest cache is stored past the caches, which saves reading the destination first; in place it is
+// read anyway.
+template <class T>
+ZEPM_INLINE bool isBeyondCaches(const RowCall& c, ptrdiff_t n)
+{
+    constexpr ptrdiff_t least = 1 << 20;
+    if (n < least || c.a.p == c.d.p || c.b.p == c.d.p || reinterpret_cast<uintptr_t>(c.d.p) % sizeof(T) != 0)
+        return false;
+    int32 cacheSize = 0;
+    zepGetMaxCacheSizeB(&cacheSize);
+    return cacheSize > 0 && n > cacheSize / sz<T> / (c.isConstant ? 2 : 3);
+}
+
+template <class T, class Op>
+void oneRow(Op op, const RowCall& c)
+{
+    const ptrdiff_t n = c.width * c.count;
+    char* const d = const_cast<char*>(c.d.p);
+    auto along = [&](auto b) __attribute__((always_inline))
     {
-        return !operand.isFixed && operand.stride0 == size;
+        isBeyondCaches<T>(c, n) ? row<T, true>(op, c.a.p, b, d, n) : row<T>(op, c.a.p, b, d, n);
     };
-    if (!c.isList && c.height == 1 && next(c.a) && next(c.d) && (c.isConstant ? c.b.isFixed : next(c.b)))
+    c.isConstant ? along(load<T>(c.b.p)) : along(c.b.p);
+}
+
+template <class T, int Length, class Op>
+void rowsInOrder(Op op, RowCall c)
+{
+    if constexpr (Length > 0)
     {
-        c.width *= c.count;
-        c.count = 1;
+        if (isGrouped<T>(c))
+        {
+            const ptrdiff_t done = groupsOf<T, Length>(op, c);
+            auto skip = [&](RowOperand & operand) __attribute__((always_inline))
+            {
+                if (!operand.isFixed) operand.p += done * operand.stride;
+            };
+            skip(c.a), skip(c.b), skip(c.d);
+            c.count -= done;
+        }
     }
-    return c;
+    c.isList ? rowsOf<T, Length, Listed>(op, c) : rowsOf<T, Length, Stepping>(op, c);
 }
 
 } // namespace
 
 template <class Op, class T>
-void combineRows(const RowCall& call)
+void combineRows(const RowCall& c)
 {
-    RowCall c = joined<T>(call);
-    if (c.count >= lanes<T>)
+    if (isOneRow<T>(c)) return oneRow<T>(Op{}, c);
+    switch (c.width)
     {
-        const ptrdiff_t done = denseObjects<T>(Op{}, c);
-        auto skip = [&](RowOperand & operand) __attribute__((always_inline))
-        {
-            if (!operand.isFixed) operand.p += done * operand.stride0;
-        };
-        if (done > 0) skip(c.a), skip(c.b), skip(c.d);
-        c.count -= done;
+    case 3: return rowsInOrder<T, 3>(Op{}, c);
+    case 4: return rowsInOrder<T, 4>(Op{}, c);
+    case 5: return rowsInOrder<T, 5>(Op{}, c);
+    case 6: return rowsInOrder<T, 6>(Op{}, c);
+    default: return rowsInOrder<T, 0>(Op{}, c);
     }
-    if (c.isConstant)
-        c.isList ? objectsByLength<T, true, true>(Op{}, c) : objectsByLength<T, true, false>(Op{}, c);
-    else
-        c.isList ? objectsByLength<T, false, true>(Op{}, c) : objectsByLength<T, false, false>(Op{}, c);
 }
 
 template void combineRows<Plus, float32>(const RowCall&);

@@ -7,6 +7,7 @@
 
 #include "frame/operands.h"
 
+#include <immintrin.h>
 #include <utility>
 
 #ifndef ZEPM_LEVEL
@@ -86,5 +87,20 @@ ZEPM_INLINE Vec<T, N> permute(Vec<T, N> x, Place)
     }
     (std::make_integer_sequence<int, N>{});
 }
+
+// A whole register to an address aligned to it, past the caches; fenceStreams() orders it before what comes after.
+template <class T>
+ZEPM_INLINE void streamVec(char* p, Vec<T, lanes<T>> x)
+{
+#if defined(__AVX512F__)
+    _mm512_stream_ps(reinterpret_cast<float*>(p), reinterpret_cast<__m512>(x));
+#elif defined(__AVX2__)
+    _mm256_stream_ps(reinterpret_cast<float*>(p), reinterpret_cast<__m256>(x));
+#else
+    _mm_stream_ps(reinterpret_cast<float*>(p), reinterpret_cast<__m128>(x));
+#endif
+}
+
+ZEPM_INLINE void fenceStreams() { _mm_sfence(); }
 
 } // namespace zepm::ZEPM_LEVEL

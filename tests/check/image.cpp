@@ -70,6 +70,11 @@ void Image::chooseStrides(Strides strides)
         stride1 = cols * stride2 + n * sz;
         break;
     case Strides::Far: stride0 = farStride(sz) - n * sz; break;
+    case Strides::FarGeneral:
+        stride2 = (2 + n) * sz;
+        stride1 = cols * stride2;
+        stride0 = farStride(sz) - n * sz;
+        break;
     case Strides::FarElements:
         stride2 = farStride(sz) - n * sz;
         stride0 = (5 + n) * sz;
@@ -123,7 +128,7 @@ void Image::place(int rows_, int cols_, int count_, Strides strides, Placement p
     base = placement.atEnd ? arena->end() - extent - placement.offset : arena->begin() + placement.offset;
     spanBegin = base - std::min(margin, base - arena->begin());
     spanEnd = base + std::min(static_cast<ptrdiff_t>(extent) + margin, arena->end() - base);
-    if (strides != Strides::Far && strides != Strides::FarElements)
+    if (!isFar(strides))
         for (char* p = spanBegin; p < spanEnd; ++p) *p = static_cast<char>((p - spanBegin) * 37 + 11 * number + 5);
 
     roiShift = (3 + 2 * number) * sz;

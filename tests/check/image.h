@@ -22,8 +22,14 @@ enum class Strides
     Across,      // the objects' elements side by side
     OneGeneral,  // one operand General, the others Gapped
     Far,         // objects 2 GiB apart
+    FarGeneral,  // the same, with gaps between elements
     FarElements  // elements 2 GiB apart
 };
+
+inline bool isFar(Strides strides)
+{
+    return strides == Strides::Far || strides == Strides::FarGeneral || strides == Strides::FarElements;
+}
 
 // Where an operand's first or last byte lies.
 struct Placement

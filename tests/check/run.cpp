@@ -37,7 +37,7 @@ T element(std::mt19937& random, bool mayBeNan)
 const char* nameOf(Strides strides)
 {
     constexpr const char* names[] = {"dense",  "gapped",      "records", "general",     "column-major",
-                                     "across", "one general", "far",     "far elements"};
+                                     "across", "one general", "far",     "far general", "far elements"};
     return names[static_cast<int>(strides)];
 }
 
@@ -100,7 +100,7 @@ void Trial::prepare(const Case& chosen)
 {
     count = chosen.count;
     sizes = chosen.sizes;
-    isFar = chosen.strides == Strides::Far || chosen.strides == Strides::FarElements;
+    isFar = check::isFar(chosen.strides);
     for (size_t n = 0; n < images.size(); ++n)
     {
         const auto [rows, cols] = function.shape(function.operands[n], chosen.sizes);

@@ -81,6 +81,19 @@ Status scratchKernel(const WithScratch& x)
 
 } // namespace
 
+// Compiled as the library is, for a processor that could do it in one.
+[[gnu::target("fma"), gnu::noinline]] static float32 productAndSum(float32 a, float32 b, float32 c)
+{
+    return a * b + c;
+}
+
+TEST(Numerics, ProductAndSumRoundOneByOne)
+{
+    if (!__builtin_cpu_supports("fma")) GTEST_SKIP() << "no fused instruction";
+    const float32 a = 1.0F + 0x1p-12F;
+    EXPECT_EQ(productAndSum(a, a, -(1.0F + 0x1p-11F)), 0.0F);
+}
+
 TEST(Shares, TileTheArray)
 {
     for (int32 threads = 1; threads <= 9; ++threads)
