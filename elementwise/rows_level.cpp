@@ -82,21 +82,53 @@ struct OneConstant
     }
 };
 
-// The elements of a fixed row of a known length, over and over: held in registers, as many as there are.
+// The pieces of a row of a known length, each in a register of its own.
+template <class T, int Length, int N = lanes<T>, int J = 0>
+struct Pieces
+{
+    static constexpr bool fits = Length - J >= N;
+    Vec<T, fits ? N : 1> own{};
+    Pieces<T, Length, fits ? N : N / 2, fits ? J + N : J> rest;
+
+    ZEPM_INLINE explicit Pieces(const char* p) : rest(p)
+    {
+        if constexpr (fits) own = loadVec<T, N>(p + J * sz<T>);
+    }
+    template <int Wanted, int At>
+    ZEPM_INLINE Vec<T, Wanted> get() const
+    {
+        if constexpr (fits && At == J)
+            return own;
+        else
+            return rest.template get<Wanted, At>();
+    }
+};
+template <class T, int Length, int N>
+struct Pieces<T, Length, N, Length>
+{
+    ZEPM_INLINE explicit Pieces(const char*) {}
+};
+
+// The elements of a fixed row of a known length, over and over.
 template <class T, int Length, int Repeated = 1>
 struct Held
 {
-    T held[Length * Repeated];
-    ZEPM_INLINE explicit Held(const char* p)
+    struct Row
     {
-        for (int n = 0; n < Repeated; ++n) __builtin_memcpy(held + n * Length, p, Length * sizeof(T));
-    }
+        T elements[Length * Repeated];
+        ZEPM_INLINE explicit Row(const char* p)
+        {
+            for (int n = 0; n < Repeated; ++n) __builtin_memcpy(elements + n * Length, p, Length * sizeof(T));
+        }
+    };
+    Pieces<T, Length * Repeated> pieces;
+    ZEPM_INLINE explicit Held(const char* p) : pieces(reinterpret_cast<const char*>(Row(p).elements)) {}
     ZEPM_INLINE void enter() {}
     ZEPM_INLINE void next() {}
     template <int N, int J>
     ZEPM_INLINE Vec<T, N> get() const
     {
-        return loadVec<T, N>(reinterpret_cast<const char*>(held + J));
+        return pieces.template get<N, J>();
     }
 };
 

@@ -86,6 +86,7 @@ void Image::chooseStrides(Strides strides)
 void Image::chooseSlots(Strides strides)
 {
     slots.clear();
+    if (!isList() && !isTable()) return;
     const int entries = isList() ? count : rows * cols;
     const ptrdiff_t objectSize = (rows - 1) * stride1 + (cols - 1) * stride2 + sz;
     ptrdiff_t step = objectSize + (strides == Strides::Dense ? 0 : (1 + number) * sz);

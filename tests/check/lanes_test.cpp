@@ -7,6 +7,7 @@
 #include "zepcore.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -56,9 +57,22 @@ public:
 
 class Lane : public testing::TestWithParam<const Function*>
 {
+public:
+    // What a touch of forbidden memory is reported with.
+    static void reportFault()
+    {
+        if (running)
+            std::fprintf(stderr, "memory outside the operands: %s\n", running->words(running->current).c_str());
+    }
+
 protected:
+    Lane() { running = this; }
+    ~Lane() override { running = nullptr; }
+
+    static inline const Lane* running = nullptr;
     const Function& function = *GetParam();
     Trial trial{function};
+    Case current;
     int number = 0;
 
     // Whether the next case runs, and what a failure says of it.
@@ -66,6 +80,7 @@ protected:
     {
         ++number;
         next.seed = static_cast<unsigned>(settingOf("CHECK_SEED", 1) * 1000003 + number);
+        current = next;
         const int only = settingOf("CHECK_CASE", 0);
         if (only > 0) return only == number;
         const int sample = settingOf("CHECK_SAMPLE", 1);
@@ -444,6 +459,7 @@ TEST(Table, Complete)
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
+    onFault(Lane::reportFault);
     zepSetMinParallelWork(0); // the bare limits of the functions
     return RUN_ALL_TESTS();
 }

@@ -1,5 +1,7 @@
 #include "tests/check/memory.h"
 
+#include <csignal>
+#include <initializer_list>
 #include <new>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -36,6 +38,29 @@ Arena::~Arena()
 {
     allow(start, size);
     munmap(start - pageSize(), size + 2 * pageSize());
+}
+
+namespace
+{
+
+void (*reportFault)() = nullptr;
+
+void reportAndEnd(int number)
+{
+    std::signal(number, SIG_DFL);
+    reportFault();
+    std::raise(number);
+}
+
+} // namespace
+
+void onFault(void (*report)())
+{
+    reportFault = report;
+    for (const int number : {SIGSEGV, SIGBUS}) std::signal(number, reportAndEnd);
+#if CHECK_POISONS
+    __sanitizer_set_death_callback(report);
+#endif
 }
 
 #if CHECK_POISONS

@@ -27,4 +27,7 @@ private:
 void forbid(const char* p, size_t n);
 void allow(const char* p, size_t n);
 
+// Calls report before the process ends by a touch of unreadable or forbidden memory.
+void onFault(void (*report)());
+
 } // namespace check
