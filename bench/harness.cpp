@@ -6,7 +6,8 @@
 int main(int argc, char** argv)
 {
     const int32 level = ZEPM_BENCH_LEVEL < 0 ? ownGetCpuLevel() : ZEPM_BENCH_LEVEL;
-    if (zepSetCpuLevel(level) != stsOk) {
+    if (zepSetCpuLevel(level) != stsOk)
+    {
         std::printf("skipped: the processor has no %s\n", ZEPM_BENCH_LEVEL_NAME);
         return 0;
     }

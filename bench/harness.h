@@ -76,7 +76,8 @@ private:
 
     void reach(Slot slot, size_t elements)
     {
-        if (!base) {
+        if (!base)
+        {
             void* const p =
                 mmap(nullptr, capacity, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
             if (p == MAP_FAILED) std::abort();
@@ -84,7 +85,8 @@ private:
             state = static_cast<uint64_t>(slot) + 1;
         }
         if (elements * sizeof(T) > capacity - 8192) std::abort();
-        for (; filled < elements; ++filled) {
+        for (; filled < elements; ++filled)
+        {
             state = state * 6364136223846793005u + 1442695040888963407u;
             const double x = static_cast<double>(static_cast<int64_t>(state) >> 12) * 0x1p-50; // within 2 of zero
             const T value = static_cast<T>(x);
@@ -120,7 +122,8 @@ public:
         auto isChecked = std::make_shared<bool>(false);
         benchmark::RegisterBenchmark((name + '/' + contender).c_str(),
                                      [problem = *this, call, isChecked](benchmark::State& state) {
-                                         if (!*isChecked && !problem.agrees(call)) {
+                                         if (!*isChecked && !problem.agrees(call))
+                                         {
                                              anyFailed() = true;
                                              state.SkipWithError("wrong status or result");
                                              return;
@@ -170,7 +173,8 @@ private:
         if (call() != stsOk) return false;
         if (tolerance == 0) return std::memcmp(expected, result, bytes) == 0;
         double largest = 0, difference = 0;
-        for (size_t k = 0; k < elements; ++k) {
+        for (size_t k = 0; k < elements; ++k)
+        {
             largest = std::fmax(largest, std::fabs(static_cast<double>(expected[k])));
             difference = std::fmax(difference, std::fabs(static_cast<double>(result[k]) - expected[k]));
             if (std::isnan(result[k]) != std::isnan(expected[k])) return false;
@@ -182,11 +186,13 @@ private:
     void time(const Call& call, benchmark::State& state) const
     {
         Status status = stsOk;
-        for (auto _ : state) {
+        for (auto _ : state)
+        {
             status |= call();
             benchmark::ClobberMemory();
         }
-        if (status != stsOk) {
+        if (status != stsOk)
+        {
             anyFailed() = true;
             state.SkipWithError("wrong status");
         }

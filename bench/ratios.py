@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Prints ratios of medians from the JSON files of bench/run.
 
-For each case: the library's time, the best peer's time divided by it, and where plain copies of the same number of bytes
-were timed, its bandwidth divided by theirs. For the fork benchmark: two threads' time divided by one's.
+For each case: the library's time, the best peer's time divided by it, and where plain copies of the same number of
+bytes were timed, its bandwidth divided by theirs. For the fork benchmark: two threads' time divided by one's.
 A ratio below its aim is marked with <; a spread is the standard deviation in percent of the mean, ours and the peer's.
 """
 import argparse
@@ -108,14 +108,16 @@ def main():
     machine = [line.split(":", 1)[1].strip() for line in subprocess.run(["lscpu"], capture_output=True, text=True,
                check=False).stdout.splitlines() if line.startswith("Model name")]
     failed = []
-    for number, path in enumerate(arguments.files):
+    is_first = True
+    for path in arguments.files:
         try:
             times = Times(path)
         except (json.JSONDecodeError, KeyError):
             print(f"{path}: no results (skipped, or no name matched)")
             continue
         context = times.context
-        if number == 0:
+        if is_first:
+            is_first = False
             print(f"machine: {', '.join(machine)}, {context['num_cpus']} processors; date: {context['date']}")
         title = (f"level {context.get('level')}, peers compiled for {context.get('peers')}, load "
                  f"{context['load_avg'][0]:.1f} at the start")

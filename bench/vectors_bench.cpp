@@ -112,8 +112,7 @@ class Problem
                                  "/n:" + std::to_string(n);
         const int count = n;
         auto loop = [object, count] {
-            for (ptrdiff_t k = 0; k < count; ++k)
-                object(k);
+            for (ptrdiff_t k = 0; k < count; ++k) object(k);
             return stsOk;
         };
         bench::Case<T> problem(name, d, elements, loop);
@@ -223,7 +222,8 @@ template <class Op, class T, int Len>
 void lengthOf()
 {
     constexpr int many = Len > 6 ? 100000 : 1000000;
-    for (const int n : {1000, many}) {
+    for (const int n : {1000, many})
+    {
         Problem<Op, T, Len, Layout::Dense>(n).all();
         Problem<Op, T, Len, Layout::Gapped>(n).all();
     }

@@ -174,10 +174,11 @@ std::string Trial::differenceFrom(const std::vector<std::vector<char>>& wanted) 
     return "";
 }
 
-std::string Trial::difference() const
+// Calls visit with the number of the operand, the object, row and column, and the expected bytes of each result.
+template <class Visit>
+void Trial::forEachResult(Visit visit) const
 {
     const size_t sz = function.isFloat32 ? 4 : 8;
-    std::vector<std::vector<char>> wanted = before;
     for (size_t n = 0; n < images.size(); ++n)
     {
         if (!function.operands[n].isDst) continue;
@@ -185,15 +186,19 @@ std::string Trial::difference() const
         const char* from = expected[n].data();
         for (int k = 0; k < (function.operands[n].isArray ? count : 1); ++k)
             for (int i = 0; i < rows; ++i)
-                for (int j = 0; j < cols; ++j, from += sz)
-                    for (size_t image = 0; image < images.size();
-                         ++image) // in place, a source shows the results as well
-                    {
-                        const char* const p = images[n].element(k, i, j);
-                        const bool isThere = image == n || images[image].bytesBegin() == images[n].bytesBegin();
-                        if (isThere) std::memcpy(wanted[image].data() + images[image].spanOffset(p), from, sz);
-                    }
+                for (int j = 0; j < cols; ++j, from += sz) visit(n, k, i, j, from, sz);
     }
+}
+
+std::string Trial::difference() const
+{
+    std::vector<std::vector<char>> wanted = before;
+    forEachResult([&](size_t n, int k, int i, int j, const char* from, size_t sz) {
+        const char* const p = images[n].element(k, i, j);
+        for (size_t image = 0; image < images.size(); ++image) // in place, a source shows the results as well
+            if (image == n || images[image].bytesBegin() == images[n].bytesBegin())
+                std::memcpy(wanted[image].data() + images[image].spanOffset(p), from, sz);
+    });
     return differenceFrom(wanted);
 }
 
@@ -201,20 +206,14 @@ std::string Trial::change() const { return differenceFrom(before); }
 
 std::string Trial::differenceOfElements() const
 {
-    const size_t sz = function.isFloat32 ? 4 : 8;
-    for (size_t n = 0; n < images.size(); ++n)
-    {
-        if (!function.operands[n].isDst) continue;
-        const auto [rows, cols] = function.shape(function.operands[n], sizes);
-        const char* from = expected[n].data();
-        for (int k = 0; k < (function.operands[n].isArray ? count : 1); ++k)
-            for (int i = 0; i < rows; ++i)
-                for (int j = 0; j < cols; ++j, from += sz)
-                    if (std::memcmp(images[n].element(k, i, j), from, sz) != 0)
-                        return "object " + std::to_string(k) + " element (" + std::to_string(i) + ", " +
-                               std::to_string(j) + ") differs";
-    }
-    return "";
+    std::string difference;
+    forEachResult([&](size_t n, int k, int i, int j, const char* from, size_t sz) {
+        const char* const p = images[n].element(k, i, j);
+        if (difference.empty() && std::memcmp(p, from, sz) != 0)
+            difference = images[n].operand.name + ": object " + std::to_string(k) + " element (" + std::to_string(i) +
+                         ", " + std::to_string(j) + ") differs";
+    });
+    return difference;
 }
 
 std::vector<std::vector<char>> Trial::outputs() const

@@ -50,6 +50,8 @@ public:
 private:
     template <class T>
     void fill(const Case& chosen);
+    template <class Visit>
+    void forEachResult(Visit visit) const;
     std::string differenceFrom(const std::vector<std::vector<char>>& expected) const;
 
     std::vector<Image> images;
