@@ -1,7 +1,9 @@
 // What the processor offers: its instruction-set level and its caches.
 #include "zepcore.h"
 
+#include <algorithm>
 #include <atomic>
+#include <cpuid.h>
 #include <initializer_list>
 #include <limits>
 #include <unistd.h>
@@ -18,18 +20,28 @@ int32 highestCpuLevel()
     return 0;
 }
 
-// Read once: each query of a cache size executes cpuid, which a virtual machine traps.
+// The caches as the processor itself lists them. (sysconf gives the third level of some processors as the sum over the
+// package.) Read once: a virtual machine traps each cpuid.
 int32 largestCacheSize()
 {
-    long largest = 0;
-    for (const int level :
-         {_SC_LEVEL1_DCACHE_SIZE, _SC_LEVEL2_CACHE_SIZE, _SC_LEVEL3_CACHE_SIZE, _SC_LEVEL4_CACHE_SIZE})
+    unsigned long long largest = 0;
+    for (const unsigned leaf : {0x4u, 0x8000001du})
     {
-        const long size = sysconf(level);
-        if (size > largest) largest = size;
+        unsigned a = 0, b = 0, c = 0, d = 0;
+        for (unsigned index = 0; index < 16 && __get_cpuid_count(leaf, index, &a, &b, &c, &d) && (a & 31) != 0; ++index)
+        {
+            const unsigned long long ways = (b >> 22) + 1, partitions = ((b >> 12) & 1023) + 1, line = (b & 4095) + 1;
+            largest = std::max(largest, ways * partitions * line * (c + 1ull));
+        }
     }
-    constexpr long limit = std::numeric_limits<int32>::max();
-    return static_cast<int32>(largest < limit ? largest : limit);
+    if (largest == 0)
+    {
+        for (const int level :
+             {_SC_LEVEL1_DCACHE_SIZE, _SC_LEVEL2_CACHE_SIZE, _SC_LEVEL3_CACHE_SIZE, _SC_LEVEL4_CACHE_SIZE})
+            largest = std::max(largest, static_cast<unsigned long long>(std::max(sysconf(level), 0L)));
+    }
+    constexpr unsigned long long limit = std::numeric_limits<int32>::max();
+    return static_cast<int32>(std::min(largest, limit));
 }
 
 const int32 cpuLevelMax = highestCpuLevel();

@@ -82,17 +82,32 @@ struct OneConstant
     }
 };
 
-// The pieces of a row of a known length, each in a register of its own.
-template <class T, int Length, int N = lanes<T>, int J = 0>
+// N elements of a fixed row that is repeated, from element J of the repetition on. Gathered in registers: what is
+// stored in small pieces cannot be loaded at once without a stall.
+template <class T, int Length, int N, int J>
+ZEPM_INLINE Vec<T, N> repeated(const char* p)
+{
+    if constexpr (J + N <= Length)
+        return loadVec<T, N>(p + J * sz<T>);
+    else
+        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+        {
+            return Vec<T, N>{load<T>(p + (J + Lane) % Length * sz<T>)...};
+        }
+    (std::make_integer_sequence<int, N>{});
+}
+
+// The pieces of such a row, each in a register of its own.
+template <class T, int Length, int Total, int N = lanes<T>, int J = 0>
 struct Pieces
 {
-    static constexpr bool fits = Length - J >= N;
+    static constexpr bool fits = Total - J >= N;
     Vec<T, fits ? N : 1> own{};
-    Pieces<T, Length, fits ? N : N / 2, fits ? J + N : J> rest;
+    Pieces<T, Length, Total, fits ? N : N / 2, fits ? J + N : J> rest;
 
     ZEPM_INLINE explicit Pieces(const char* p) : rest(p)
     {
-        if constexpr (fits) own = loadVec<T, N>(p + J * sz<T>);
+        if constexpr (fits) own = repeated<T, Length, N, J>(p);
     }
     template <int Wanted, int At>
     ZEPM_INLINE Vec<T, Wanted> get() const
@@ -103,8 +118,8 @@ struct Pieces
             return rest.template get<Wanted, At>();
     }
 };
-template <class T, int Length, int N>
-struct Pieces<T, Length, N, Length>
+template <class T, int Length, int Total, int N>
+struct Pieces<T, Length, Total, N, Total>
 {
     ZEPM_INLINE explicit Pieces(const char*) {}
 };
@@ -113,16 +128,8 @@ struct Pieces<T, Length, N, Length>
 template <class T, int Length, int Repeated = 1>
 struct Held
 {
-    struct Row
-    {
-        T elements[Length * Repeated];
-        ZEPM_INLINE explicit Row(const char* p)
-        {
-            for (int n = 0; n < Repeated; ++n) __builtin_memcpy(elements + n * Length, p, Length * sizeof(T));
-        }
-    };
-    Pieces<T, Length * Repeated> pieces;
-    ZEPM_INLINE explicit Held(const char* p) : pieces(reinterpret_cast<const char*>(Row(p).elements)) {}
+    Pieces<T, Length, Length * Repeated> pieces;
+    ZEPM_INLINE explicit Held(const char* p) : pieces(p) {}
     ZEPM_INLINE void enter() {}
     ZEPM_INLINE void next() {}
     template <int N, int J>
@@ -186,7 +193,7 @@ ZEPM_INLINE auto fixedRow(const RowOperand& operand)
 }
 
 template <class T, int Length, class Lying, class Op>
-void rowsOf(Op op, const RowCall& c)
+[[gnu::noinline]] void rowsOf(Op op, const RowCall& c)
 {
     const Elements<T, Lying> a{Lying(c.a)}, b{Lying(c.b)};
     const Constants<T, Lying> constants{Lying(c.b)};
@@ -207,7 +214,7 @@ void rowsOf(Op op, const RowCall& c)
 
 // Dense rows of few elements: as many of them as a register has lanes are one row of Length whole registers.
 template <class T, int Length, class Op>
-ptrdiff_t groupsOf(Op op, const RowCall& c)
+[[gnu::noinline]] ptrdiff_t groupsOf(Op op, const RowCall& c)
 {
     constexpr int W = lanes<T>;
     constexpr ptrdiff_t groupSize = Length * registerBytes;
@@ -267,7 +274,7 @@ ZEPM_INLINE bool isBeyondCaches(const RowCall& c, ptrdiff_t n)
 }
 
 template <class T, class Op>
-void oneRow(Op op, const RowCall& c)
+[[gnu::noinline]] void oneRow(Op op, const RowCall& c)
 {
     const ptrdiff_t n = c.width * c.count;
     char* const d = const_cast<char*>(c.d.p);
@@ -279,22 +286,25 @@ void oneRow(Op op, const RowCall& c)
 }
 
 template <class T, int Length, class Op>
-void rowsInOrder(Op op, RowCall c)
+ZEPM_INLINE void rowsInOrder(Op op, const RowCall& call)
 {
     if constexpr (Length > 0)
     {
-        if (isGrouped<T>(c))
+        if (isGrouped<T>(call))
         {
-            const ptrdiff_t done = groupsOf<T, Length>(op, c);
+            const ptrdiff_t done = groupsOf<T, Length>(op, call);
+            if (done == call.count) return;
+            RowCall rest = call;
             auto skip = [&](RowOperand & operand) __attribute__((always_inline))
             {
                 if (!operand.isFixed) operand.p += done * operand.stride;
             };
-            skip(c.a), skip(c.b), skip(c.d);
-            c.count -= done;
+            skip(rest.a), skip(rest.b), skip(rest.d);
+            rest.count -= done;
+            return rowsOf<T, Length, Stepping>(op, rest);
         }
     }
-    c.isList ? rowsOf<T, Length, Listed>(op, c) : rowsOf<T, Length, Stepping>(op, c);
+    call.isList ? rowsOf<T, Length, Listed>(op, call) : rowsOf<T, Length, Stepping>(op, call);
 }
 
 } // namespace

@@ -118,6 +118,9 @@ class DriverLane : public Lane
 class NarrowLane : public Lane
 {
 };
+class LongLane : public Lane
+{
+};
 
 // The smallest count whose estimate takes the driver, at least threads.
 int32 countFor(const Function& function, const std::vector<int>& sizes, int32 limit, int32 threads)
@@ -202,6 +205,21 @@ TEST_P(ArrayLane, FarApart)
             EXPECT_EQ(trial.call(Trial::values(trial.args())), stsOk) << words(chosen);
             EXPECT_EQ(trial.differenceOfElements(), "") << words(chosen);
         }
+}
+
+// Dense rows beyond the largest cache, whose results are stored past the caches.
+TEST_P(LongLane, BeyondTheCaches)
+{
+    int32 cacheSize = 0;
+    ASSERT_EQ(zepGetMaxCacheSizeB(&cacheSize), stsOk);
+    if (cacheSize > 1 << 28) return; // too much memory for a test
+    const int32 elements = cacheSize / (function.isFloat32 ? 4 : 8) / 2 + 100000;
+    for (const int32 level : levels())
+    {
+        const AtLevel atLevel(level);
+        for (const bool atEnd : {true, false})
+            if (!passes({{7}, elements / 7, Strides::Dense, {atEnd, 0}})) return;
+    }
 }
 
 // ---- Validation -----------------------------------------------------------------------------------------------------
@@ -429,6 +447,10 @@ INSTANTIATE_TEST_SUITE_P(All, ArrayLane,
                          testing::ValuesIn(functionsThat([](const Function& f) { return f.isArray(); })), nameOf);
 INSTANTIATE_TEST_SUITE_P(All, DriverLane,
                          testing::ValuesIn(functionsThat([](const Function& f) { return f.hasDriver(); })), nameOf);
+INSTANTIATE_TEST_SUITE_P(All, LongLane, testing::ValuesIn(functionsThat([](const Function& f) {
+                             return f.name == "zepmAdd_vava_32f" || f.name == "zepmSub_cva_64f";
+                         })),
+                         nameOf);
 INSTANTIATE_TEST_SUITE_P(All, NarrowLane,
                          testing::ValuesIn(functionsThat([](const Function& f) { return !f.untested.empty(); })),
                          nameOf);
