@@ -2,12 +2,20 @@
  *
  *   zepm_types.h        types, status codes, how names and layouts are read
  *   zepm_elementwise.h  Add, Sub
+ *   zepm_product.h      products of matrices
+ *   zepm_solver.h       direct solvers
+ *   zepm_eigen.h        eigenproblems
+ *   zepm_geometry.h     fixed-size 3D geometry
  *   zepmGetLibVersion   below
  */
 #ifndef ZEPM_H
 #define ZEPM_H
 
+#include "zepm_eigen.h"
 #include "zepm_elementwise.h"
+#include "zepm_geometry.h"
+#include "zepm_product.h"
+#include "zepm_solver.h"
 #include "zepm_types.h"
 
 #ifdef __cplusplus

@@ -43,7 +43,8 @@ const std::vector<Function>& allFunctions()
 {
     static const std::vector<Function> functions = [] {
         std::vector<Function> all;
-        for (auto family : {vectorFunctions})
+        for (auto family : {vectorFunctions, matrixFunctions, productFunctions, solverFunctions, symmetricFunctions,
+                            geometryFunctions})
         {
             const std::vector<Function> rows = family();
             std::copy(rows.begin(), rows.end(), std::back_inserter(all));

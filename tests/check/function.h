@@ -138,5 +138,10 @@ const std::vector<Function>& allFunctions();
 
 // The families' rows.
 std::vector<Function> vectorFunctions();
+std::vector<Function> matrixFunctions();
+std::vector<Function> productFunctions();
+std::vector<Function> solverFunctions();
+std::vector<Function> symmetricFunctions();
+std::vector<Function> geometryFunctions();
 
 } // namespace check
