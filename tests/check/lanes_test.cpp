@@ -447,7 +447,7 @@ TEST_P(DriverLane, FewObjects)
     for (const int count : {1, 3, 4, 5, 10})
     {
         std::vector<int> sizes(function.sizeNames.size(), 1);
-        while (function.estimate(sizes, count) < function.limits.packed && sizes[0] < 2000)
+        while (!sizes.empty() && function.estimate(sizes, count) < function.limits.packed && sizes[0] < 2000)
             for (int& size : sizes) ++size;
         if (!passes({sizes, count, Strides::Dense, {}})) return;
     }
@@ -487,7 +487,8 @@ INSTANTIATE_TEST_SUITE_P(All, NarrowLane,
 // Every function of the headers has its row.
 TEST(Table, Complete)
 {
-    std::set<std::string> declared, known;
+    // Of the fixed-size functions the one with a driver; the others have tests of their own.
+    std::set<std::string> declared = {"zepmAffineTransform3DH_mva_32f"}, known;
     for (const char* const header : {"zepm_elementwise.h", "zepm_product.h", "zepm_solver.h", "zepm_eigen.h"})
     {
         std::ifstream file(std::string(CHECK_INCLUDE_DIR "/") + header);
