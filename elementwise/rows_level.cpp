@@ -220,9 +220,9 @@ template <class T, int Length, class Op>
     constexpr ptrdiff_t groupSize = Length * registerBytes;
     auto streamed = [&](const RowOperand& operand) __attribute__((always_inline))
     {
-        return Elements<T, Stepping>{Stepping({operand.p, groupSize, false})};
+        return Elements<T, Stepping>{Stepping({operand.p, groupSize, false, 0})};
     };
-    const Stepping d({c.d.p, groupSize, false});
+    const Stepping d({c.d.p, groupSize, false, 0});
     const ptrdiff_t count = c.count / W;
     if (c.isConstant && c.a.isFixed)
         rows<T, Length * W>(op, Held<T, Length, W>(c.a.p), Spread<T, Length>{c.b.p}, d, 0, count);
@@ -329,5 +329,7 @@ template void combineRows<Minus, float32>(const RowCall&);
 template void combineRows<Minus, float64>(const RowCall&);
 template void combineRows<MinusFrom, float32>(const RowCall&);
 template void combineRows<MinusFrom, float64>(const RowCall&);
+template void combineRows<Times, float32>(const RowCall&);
+template void combineRows<Times, float64>(const RowCall&);
 
 } // namespace zepm::ZEPM_LEVEL
