@@ -91,6 +91,7 @@ void Trial::fill(const Case& chosen)
 {
     std::mt19937 random(chosen.seed);
     Problem<T> problem{chosen.sizes, chosen.count, {}, stsOk, chosen.mayFail};
+    for (const Image& image : images) problem.isPacked = problem.isPacked && image.isPacked();
     auto forEach = [&](auto visit) {
         for (size_t n = 0; n < images.size(); ++n)
         {
