@@ -200,7 +200,8 @@ TEST_P(ArrayLane, FarApart)
             Case chosen{function.sizesToTry[3], 4, strides, {}};
             // Few objects with work enough for the driver.
             if (strides != Strides::FarElements && function.hasDriver())
-                chosen.sizes.assign(chosen.sizes.size(), function.sizeNames.size() == 1 ? 1300 : 40);
+                while (function.estimate(chosen.sizes, chosen.count) < function.limits.general && chosen.sizes[0] < 1300)
+                    for (int& size : chosen.sizes) ++size;
             if (!takes(chosen)) continue;
             trial.prepare(chosen);
             EXPECT_EQ(trial.call(Trial::values(trial.args())), stsOk) << words(chosen);
