@@ -14,15 +14,11 @@ ZEPM_INLINE Lanes<4> loadPoint(const char* p)
 {
     if constexpr (Size == 4)
         return loadVec<float32, 4>(p);
-#if defined(__AVX__)
-    else if constexpr (Size == 3)
-        return _mm_maskload_ps(reinterpret_cast<const float32*>(p), _mm_setr_epi32(-1, -1, -1, 0));
-#endif
     else
     {
-        const Lanes<2> xy = loadVec<float32, 2>(p);
-        const float32 z = Size == 3 ? load<float32>(p + 8) : 0;
-        return Lanes<4>{xy[0], xy[1], z, 0};
+        const Lanes<4> xy = _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
+        if constexpr (Size == 2) return xy;
+        return __builtin_shufflevector(xy, Lanes<4>{load<float32>(p + 8), 0, 0, 0}, 0, 1, 4, 5);
     }
 }
 
@@ -53,7 +49,8 @@ ZEPM_INLINE void storePoints(char* p, ptrdiff_t step, Lanes<N> x)
     scattered<N>(x, [&](int g, Lanes<4> point) __attribute__((always_inline)) { storePoint<Size>(p + g * step, point); });
 }
 
-// In records of 16 bytes: whole registers, less the last element of each record where it is not the point's.
+// In records of 16 bytes: whole registers, less the last element of each record where it is not the point's. The masked
+// loads and stores of AVX2 are slower than pieces, the loads beyond the caches and the stores anywhere.
 template <int Size, int N>
 ZEPM_INLINE Lanes<N> loadRecords(const char* p)
 {
@@ -62,11 +59,6 @@ ZEPM_INLINE Lanes<N> loadRecords(const char* p)
 #if defined(__AVX512F__)
     else if constexpr (Size == 3 && N == 16)
         return _mm512_maskz_loadu_ps(0x7777, p);
-#endif
-#if defined(__AVX__)
-    else if constexpr (Size == 3 && N == 8)
-        return _mm256_maskload_ps(reinterpret_cast<const float32*>(p),
-                                  _mm256_setr_epi32(-1, -1, -1, 0, -1, -1, -1, 0));
 #endif
     else
         return loadPoints<Size, N>(p, 16);
@@ -81,7 +73,7 @@ ZEPM_INLINE void storeRecords(char* p, Lanes<N> x)
     else if constexpr (Size == 3 && N == 16)
         _mm512_mask_storeu_ps(p, 0x7777, x);
 #endif
-    else // masked stores of AVX2 are slow on some processors
+    else
         storePoints<Size, N>(p, 16, x);
 }
 
