@@ -1,5 +1,5 @@
-// Fixed-size vectors, 4 by 4 matrices and single points in registers. Sources are read in full before a result is stored, so that a
-// destination may be a source.
+// Fixed-size vectors, 4 by 4 matrices and single points in registers. Sources are read in full before a result is
+// stored, so that a destination may be a source.
 #pragma once
 
 #include "frame/lanes.h"
@@ -19,9 +19,8 @@ ZEPM_INLINE Fixed<N> loadFixed(const float32* p)
 {
     if constexpr (N == 3)
     {
-        const Fixed<2> xy = loadVec<float32, 2>(bytes(p));
-        const float32 z = load<float32>(p + 2);
-        return Fixed<3>{xy[0], xy[1], z, z};
+        const Fixed<4> xy = _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
+        return __builtin_shufflevector(xy, Fixed<4>{load<float32>(p + 2), 0, 0, 0}, 0, 1, 4, 4);
     }
     else
     {

@@ -79,37 +79,41 @@ struct Minors
 };
 
 template <class T>
-struct Inverse
+struct Cofactors
 {
+    Matrix4<T> c; // apart from their sign
     T determinant;
-    bool isSingular;
-    Matrix4<T> matrix; // unless singular
 
-    ZEPM_INLINE explicit Inverse(const Matrix4<T>& m)
+    ZEPM_INLINE explicit Cofactors(const Matrix4<T>& m)
     {
         // Columns c + 1, c + 2, c + 3 modulo 4, and rows where they are not in order, are so but for an even
-        // permutation: these are the cofactors (i, c) apart from the alternating sign.
+        // permutation: what is left out is the alternating sign.
         const TwoRows<T> a(m.row[2], m.row[0]), b(m.row[3], m.row[1]);
         const TwoRows<T> r1r3(m.row[1], m.row[3]), r0r2(m.row[0], m.row[2]);
-        TwoRows<T> cofactors02, cofactors13;
+        TwoRows<T> c02, c13;
         ZEPM_UNROLL
         for (int i = 0; i < TwoRows<T>::parts; ++i)
         {
             const Minors<T, TwoRows<T>::N> minors(a.part[i], b.part[i]);
-            cofactors02.part[i] = minors.behind(r1r3.part[i]);
-            cofactors13.part[i] = minors.behind(r0r2.part[i]);
+            c02.part[i] = minors.behind(r1r3.part[i]);
+            c13.part[i] = minors.behind(r0r2.part[i]);
         }
-        const Matrix4<T> c{{cofactors02.first(), cofactors13.first(), cofactors02.second(), cofactors13.second()}};
+        c = {{c02.first(), c13.first(), c02.second(), c13.second()}};
 
         // Down column 0: (3 + 1) + (2 + 0), those of odd rows negative.
         determinant = m.row[2][0] * c.row[2][0] + m.row[0][0] * c.row[0][0] -
                       (m.row[3][0] * c.row[3][0] + m.row[1][0] * c.row[1][0]);
-        isSingular = (determinant < 0 ? -determinant : determinant) < leastDeterminant<T>;
-        if (isSingular) return;
+    }
+    ZEPM_INLINE bool isSingular() const
+    {
+        return determinant < leastDeterminant<T> && determinant > -leastDeterminant<T>;
+    }
+    ZEPM_INLINE Matrix4<T> inverse() const
+    {
         const T scale = reciprocal(determinant);
         const Vec<T, 4> even{scale, -scale, scale, -scale}, odd = -even;
-        matrix = transposed(c);
-        matrix = {{matrix.row[0] * even, matrix.row[1] * odd, matrix.row[2] * even, matrix.row[3] * odd}};
+        const Matrix4<T> t = transposed(c);
+        return {{t.row[0] * even, t.row[1] * odd, t.row[2] * even, t.row[3] * odd}};
     }
 };
 

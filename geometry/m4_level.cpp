@@ -54,10 +54,14 @@ Status multiplyTransposed(const float32* pSrc1, const float32* pSrc2, float32* p
 
 Status invert(const float32* pSrc, float32* pDet, float32* pDst)
 {
-    const Inverse<float32> inverse(loadMatrix(pSrc));
-    if (pDet) store<float32>(pDet, inverse.isSingular ? 0 : inverse.determinant);
-    if (inverse.isSingular) return stsSingularErr;
-    storeMatrix(pDst, inverse.matrix);
+    const Cofactors<float32> cofactors(loadMatrix(pSrc));
+    if (cofactors.isSingular())
+    {
+        if (pDet) store<float32>(pDet, 0);
+        return stsSingularErr;
+    }
+    if (pDet) store<float32>(pDet, cofactors.determinant);
+    storeMatrix(pDst, cofactors.inverse());
     return stsOk;
 }
 
@@ -68,11 +72,11 @@ Status invertInFloat64(const float32* pSrc, float32* pDst)
     Matrix4<float64> wide;
     ZEPM_UNROLL
     for (int i = 0; i < 4; ++i) wide.row[i] = __builtin_convertvector(m.row[i], Vec<float64, 4>);
-    const Inverse<float64> inverse(wide);
-    if (inverse.isSingular) return stsSingularErr;
+    const Cofactors<float64> cofactors(wide);
+    if (cofactors.isSingular()) return stsSingularErr;
+    const Matrix4<float64> inverse = cofactors.inverse();
     ZEPM_UNROLL
-    for (int i = 0; i < 4; ++i)
-        storeFixed<4>(pDst + 4 * i, __builtin_convertvector(inverse.matrix.row[i], Fixed<4>));
+    for (int i = 0; i < 4; ++i) storeFixed<4>(pDst + 4 * i, __builtin_convertvector(inverse.row[i], Fixed<4>));
     return stsOk;
 }
 

@@ -80,7 +80,8 @@ Status zepmUnproject_m4v3a_32f(const float32* pProj, const float32* pView, const
     const CombinedInverse inverse(pProj, pView, pWorld);
     if (inverse.status) return inverse.status;
     if (count < 1) return stsOk;
-    const Unprojection unprojection{FromViewport(vpWidth, vpHeight, zMin, zMax), through<Coord<3>>(loadMatrix(inverse.e))};
+    const Unprojection unprojection{FromViewport(vpWidth, vpHeight, zMin, zMax),
+                                    through<Coord<3>>(loadMatrix(inverse.e))};
     transformPoints(unprojection, {pSrc, srcStride0}, {pDst, dstStride0}, count);
     return stsOk;
 }

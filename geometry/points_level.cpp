@@ -13,14 +13,14 @@ using Source = PointArray<const float32>;
 using Destination = PointArray<float32>;
 
 ZEPM_INLINE bool allOf(int isRegular) { return isRegular; }
+ZEPM_INLINE bool allOf(Vec<int32, 4> isRegular) { return _mm_movemask_ps(reinterpret_cast<Lanes<4>>(isRegular)) == 15; }
 template <class Mask>
 ZEPM_INLINE bool allOf(Mask isRegular)
 {
     constexpr int N = sizeof(Mask) / 4;
-    int all = -1;
-    ZEPM_UNROLL
-    for (int lane = 0; lane < N; ++lane) all &= isRegular[lane];
-    return all != 0;
+    using Half = Vec<int32, N / 2>;
+    const auto lanes = reinterpret_cast<Lanes<N>>(isRegular);
+    return allOf(reinterpret_cast<Half>(halfOf<N, 0>(lanes)) & reinterpret_cast<Half>(halfOf<N, 1>(lanes)));
 }
 
 // The formula on points in registers; whether it succeeded on all.
