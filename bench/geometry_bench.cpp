@@ -2,8 +2,8 @@
 //
 // All keep the same 16 numbers for the same transform: rows here are columns there, and a product has its factors in
 // the other order. GLM computes with its aligned types, whose code is vector code; with "packed" in its name the points
-// are its packed types as well. Layouts: dense, points of 12 bytes side by side; records, points of 16 bytes, whose last
-// element the peers may read and write.
+// are its packed types as well. Layouts: dense, points of 12 bytes side by side; records, points of 16 bytes, whose
+// last element the peers may read and write.
 #include "bench/harness.h"
 
 #define GLM_FORCE_INTRINSICS
