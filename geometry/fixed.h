@@ -1,5 +1,5 @@
-// Fixed-size vectors, 4 by 4 matrices and single points in registers. Sources are read in full before a result is stored, so that a
-// destination may be a source.
+// Fixed-size vectors, 4 by 4 matrices and single points in registers. Sources are read in full before a result is
+// stored, so that a destination may be a source.
 #pragma once
 
 #include "frame/lanes.h"
@@ -19,9 +19,8 @@ ZEPM_INLINE Fixed<N> loadFixed(const float32* p)
 {
     if constexpr (N == 3)
     {
-        const Fixed<2> xy = loadVec<float32, 2>(bytes(p));
-        const float32 z = load<float32>(p + 2);
-        return Fixed<3>{xy[0], xy[1], z, z};
+        const Fixed<4> xy = _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
+        return __builtin_shufflevector(xy, Fixed<4>{load<float32>(p + 2), 0, 0, 0}, 0, 1, 4, 4);
     }
     else
     {
@@ -139,17 +138,6 @@ template <int Lane, class T>
 ZEPM_INLINE Vec<T, 4> lane4(Vec<T, 4> x)
 {
     return __builtin_shufflevector(x, x, Lane, Lane, Lane, Lane);
-}
-
-// a * b, each element summed in index order.
-ZEPM_INLINE Matrix4<float32> product(const Matrix4<float32>& a, const Matrix4<float32>& b)
-{
-    Matrix4<float32> d;
-    ZEPM_UNROLL
-    for (int i = 0; i < 4; ++i)
-        d.row[i] = lane4<0, float32>(a.row[i]) * b.row[0] + lane4<1, float32>(a.row[i]) * b.row[1] +
-                   lane4<2, float32>(a.row[i]) * b.row[2] + lane4<3, float32>(a.row[i]) * b.row[3];
-    return d;
 }
 
 // ---- Points ---------------------------------------------------------------------------------------------------------

@@ -3,7 +3,7 @@
 // row, which gives all elements of the result at once.
 #pragma once
 
-#include "frame/operands.h"
+#include "frame/lanes.h"
 
 namespace zepm
 {
@@ -115,10 +115,12 @@ struct Through
     template <class V>
     ZEPM_INLINE void apply(const V (&p)[in], V (&d)[out]) const
     {
+        ZEPM_UNROLL
         for (int j = 0; j < out; ++j) d[j] = element(j, p);
         if constexpr (Formula::divides)
         {
             const V q = element(3, p);
+            ZEPM_UNROLL
             for (int j = 0; j < out; ++j) d[j] = d[j] / q;
         }
     }
@@ -134,6 +136,7 @@ struct Projection
     ZEPM_INLINE void apply(const V (&p)[3], V (&d)[3]) const
     {
         combined.apply(p, d);
+        ZEPM_UNROLL
         for (int i = 0; i < 3; ++i) d[i] = viewport.element(i, d[i]);
     }
 };
@@ -170,6 +173,7 @@ struct Homogeneous
         const V q = element(3, p);
         const auto isRegular = (q > __FLT_MIN__) | (q < -__FLT_MIN__);
         const V inv = 1.0f / (isRegular ? q : 1.0f);
+        ZEPM_UNROLL
         for (int i = 0; i < 3; ++i) d[i] = isRegular ? inv * element(i, p) : __FLT_MAX__;
         return isRegular;
     }

@@ -19,7 +19,10 @@ ZEPM_INLINE Status lookAlong(Fixed<3> forward, Fixed<3> eye, Fixed<3> up, float3
     const Fixed<3> xax = normalized<3>(cross(up, zax));
     const Fixed<3> yax = cross(zax, xax);
     Matrix4<float32> view = transposed(Matrix4<float32>{{xax, yax, zax, {}}});
-    view.row[3] = Fixed<4>{0 - dot<3>(xax, eye), 0 - dot<3>(yax, eye), 0 - dot<3>(zax, eye), 1};
+    // The products of the three axes and the eye, each in index order.
+    const Fixed<4> dots = view.row[0] * eye[0] + view.row[1] * eye[1] + view.row[2] * eye[2];
+    view.row[3] = 0.0f - dots;
+    view.row[3][3] = 1;
     storeMatrix(pDst, view);
     return stsOk;
 }

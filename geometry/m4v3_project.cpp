@@ -1,5 +1,6 @@
 // zepmProject, zepmUnproject of m4v3 and of arrays of points
-#include "geometry/inverse.h"
+#include "geometry/fixed.h"
+#include "geometry/m4.h"
 #include "geometry/points.h"
 #include "zepm_geometry.h"
 
@@ -10,26 +11,26 @@ namespace
 {
 
 // World, view and projection in one.
-ZEPM_INLINE Matrix4<float32> combined(const float32* pProj, const float32* pView, const float32* pWorld)
+struct Combined
 {
-    return product(product(loadMatrix(pWorld), loadMatrix(pView)), loadMatrix(pProj));
-}
-
-// The way back, inverted in float64 and rounded.
-struct WayBack
-{
-    bool isSingular;
-    Matrix4<float32> matrix;
-
-    WayBack(const float32* pProj, const float32* pView, const float32* pWorld)
+    float32 e[16];
+    Combined(const float32* pProj, const float32* pView, const float32* pWorld)
     {
-        const Matrix4<float32> m = combined(pProj, pView, pWorld);
-        Matrix4<float64> wide;
-        for (int i = 0; i < 4; ++i) wide.row[i] = __builtin_convertvector(m.row[i], Vec<float64, 4>);
-        const Inverse<float64> inverse(wide);
-        isSingular = inverse.isSingular;
-        if (isSingular) return;
-        for (int i = 0; i < 4; ++i) matrix.row[i] = __builtin_convertvector(inverse.matrix.row[i], Fixed<4>);
+        const auto multiply = atLevel(ssse3::multiply, avx2::multiply, avx512::multiply);
+        multiply(pWorld, pView, e);
+        multiply(e, pProj, e);
+    }
+};
+
+// The way back, or why there is none.
+struct CombinedInverse
+{
+    float32 e[16];
+    Status status;
+    CombinedInverse(const float32* pProj, const float32* pView, const float32* pWorld)
+    {
+        const Combined m(pProj, pView, pWorld);
+        status = atLevel(ssse3::invertInFloat64, avx2::invertInFloat64, avx512::invertInFloat64)(m.e, e);
     }
 };
 
@@ -52,7 +53,7 @@ Status zepmProject_m4v3a_32f(const float32* pProj, const float32* pView, const f
                              float32* pDst, int32 dstStride0, int32 count)
 {
     if (count < 1) return stsOk;
-    const Projection projection{through<Coord<3>>(combined(pProj, pView, pWorld)),
+    const Projection projection{through<Coord<3>>(loadMatrix(Combined(pProj, pView, pWorld).e)),
                                 ToViewport(vpWidth, vpHeight, zMin, zMax)};
     transformPoints(projection, {pSrc, srcStride0}, {pDst, dstStride0}, count);
     return stsOk;
@@ -65,10 +66,10 @@ Status zepmUnproject_m4v3_32f(const float32* pProj, const float32* pView, const 
     const float32 point[3] = {load<float32>(pSrc), load<float32>(pSrc + 1), load<float32>(pSrc + 2)};
     float32 n[3];
     FromViewport(vpWidth, vpHeight, zMin, zMax).apply(point, n);
-    const WayBack back(pProj, pView, pWorld);
+    const CombinedInverse inverse(pProj, pView, pWorld);
     const Fixed<3> inCube{n[0], n[1], n[2], n[2]};
-    storeFixed<3>(pDst, back.isSingular ? inCube : transformed<Coord<3>>(back.matrix, inCube));
-    return back.isSingular ? stsSingularErr : stsOk;
+    storeFixed<3>(pDst, inverse.status ? inCube : transformed<Coord<3>>(loadMatrix(inverse.e), inCube));
+    return inverse.status;
 }
 
 // A singular product leaves pDst as it was. It is reported for a count below 1 as well.
@@ -76,10 +77,11 @@ Status zepmUnproject_m4v3a_32f(const float32* pProj, const float32* pView, const
                                int32 srcStride0, float32 vpWidth, float32 vpHeight, float32 zMin, float32 zMax,
                                float32* pDst, int32 dstStride0, int32 count)
 {
-    const WayBack back(pProj, pView, pWorld);
-    if (back.isSingular) return stsSingularErr;
+    const CombinedInverse inverse(pProj, pView, pWorld);
+    if (inverse.status) return inverse.status;
     if (count < 1) return stsOk;
-    const Unprojection unprojection{FromViewport(vpWidth, vpHeight, zMin, zMax), through<Coord<3>>(back.matrix)};
+    const Unprojection unprojection{FromViewport(vpWidth, vpHeight, zMin, zMax),
+                                    through<Coord<3>>(loadMatrix(inverse.e))};
     transformPoints(unprojection, {pSrc, srcStride0}, {pDst, dstStride0}, count);
     return stsOk;
 }

@@ -16,9 +16,11 @@
  * in row 3. Angles are in radians. In the formulas a, b, c are the sources in order, d is the destination; arithmetic
  * is float32 in the order written.
  *
+ * Sources are read in full before a result is written, so a destination may be a source.
+ *
  * Arrays of points have one stride in bytes for each array, from element 0 of one point to that of the next: any value,
- * also 0 or negative. Each point is computed like a single one. Where points overlap, the result is that of a walk from
- * the first point to the last; a count below 1 is nothing to do.
+ * also 0 or negative. Each point is computed like a single one, and nothing between the points is touched. Where points
+ * overlap, the result is that of a walk from the first point to the last; a count below 1 is nothing to do.
  *
  * No argument is tested: a null pointer faults, a division by zero gives what IEEE says, with stsOk. The exceptions are
  * told at zepmMul_mm4x4, zepmInvert_m4, zepmUnproject and zepmAffineTransform3DH_mva.
@@ -181,13 +183,13 @@ Status zepmPerspectiveOffCenterRH_m4_32f(float32 l, float32 r, float32 b, float3
 Status zepmPerspectiveFovLH_m4_32f(float32 fovY, float32 aspect, float32 zn, float32 zf, float32* pDst);
 Status zepmPerspectiveFovRH_m4_32f(float32 fovY, float32 aspect, float32 zn, float32 zf, float32* pDst);
 
-/* The product a * b, each element summed in index order. stsNullPtrErr if a pointer is null. pDst may be a source. */
+/* The product a * b, each element summed in index order. stsNullPtrErr if a pointer is null. */
 Status zepmMul_mm4x4_32f(const float32* pSrc1, const float32* pSrc2, float32* pDst);
 
-/* The transpose of a * b. pDst may be a source. */
+/* The transpose of a * b. */
 Status zepmMulTranspose_m4_32f(const float32* pSrc1, const float32* pSrc2, float32* pDst);
 
-/* The transpose. pDst may be the source. */
+/* The transpose. */
 Status zepmTranspose_m4_32f(const float32* pSrc, float32* pDst);
 
 /* *pDst = the determinant, expanded along row 0. */
@@ -195,7 +197,7 @@ Status zepmDet_m4_32f(const float32* pSrc, float32* pDst);
 
 /* The inverse: the cofactors, times a reciprocal of the determinant from the 12-bit estimate and one Newton step.
  * pDet, which may be null, receives the determinant. stsSingularErr if the determinant is below 2^-119 in magnitude:
- * *pDet is then 0 and pDst as it was. pDst may be the source. */
+ * *pDet is then 0 and pDst as it was. */
 Status zepmInvert_m4_32f(const float32* pSrc, float32* pDet, float32* pDst);
 
 /* ---- Points through a matrix ------------------------------------------------------------------------------------- */
@@ -215,8 +217,8 @@ Status zepmAffineTransform_m4v3a_32f(const float32* pSrc1, const float32* pSrc2,
 Status zepmAffineTransform_m4v4a_32f(const float32* pSrc1, const float32* pSrc2, int32 src2Stride0, float32* pDst,
                                      int32 dstStride0, int32 count);
 
-/* A point times the matrix, divided by its w. The result has as many elements as the point; q is the numerator for j
- * = 3:
+/* A point times the matrix, divided by its w. The result has as many elements as the point. q is the numerator of
+ * element 3:
  *
  *   v2  d[j] = (e[j] * x + e[12+j] + e[4+j] * y) / q
  *   v3  d[j] = (e[12+j] + e[8+j] * z + (e[j] * x + e[4+j] * y)) / q */
@@ -250,7 +252,8 @@ Status zepmProject_m4v3a_32f(const float32* pProj, const float32* pView, const f
 
 /* From the viewport back: the point n = (2 * x / vpWidth - 1, -2 * y / vpHeight + 1, (z - zMin) / (zMax - zMin)) as
  * in zepmAffineTransformCoord, by the inverse of world * view * projection, computed in float64. stsSingularErr if
- * the determinant is below 2^-1014 in magnitude: pDst then holds n, in the array form it is as it was. */
+ * the determinant is below 2^-1014 in magnitude: pDst then holds n; in the array form it is as it was, and the status
+ * is the same for a count below 1. */
 Status zepmUnproject_m4v3_32f(const float32* pProj, const float32* pView, const float32* pWorld, const float32* pSrc,
                               float32 vpWidth, float32 vpHeight, float32 zMin, float32 zMax, float32* pDst);
 Status zepmUnproject_m4v3a_32f(const float32* pProj, const float32* pView, const float32* pWorld, const float32* pSrc,

@@ -48,8 +48,8 @@ public:
             std::memcpy(p, s[n].data(), s[n].size() * sizeof(float32));
             sources.push_back(reinterpret_cast<const float32*>(p));
         }
-        char* const d = inPlace < 0 ? at(4, function.size, place)
-                                    : const_cast<char*>(reinterpret_cast<const char*>(sources[static_cast<size_t>(inPlace)]));
+        const auto source = static_cast<size_t>(inPlace);
+        char* const d = inPlace < 0 ? at(4, function.size, place) : at(source, s[source].size(), place);
         if (inPlace < 0) std::memcpy(d, results.data(), function.size * sizeof(float32));
         const Status status = function.call(sources, v, reinterpret_cast<float32*>(d));
         std::memcpy(results.data(), d, function.size * sizeof(float32));
@@ -74,7 +74,8 @@ float32 between(float32 low, float32 high) { return std::uniform_real_distributi
 float32 anything()
 {
     constexpr float32 inf = std::numeric_limits<float32>::infinity();
-    constexpr float32 special[] = {0, -0.0f, inf, -inf, std::numeric_limits<float32>::quiet_NaN(), FLT_MAX, FLT_MIN, 1e-40f};
+    constexpr float32 nan = std::numeric_limits<float32>::quiet_NaN();
+    constexpr float32 special[] = {0, -0.0f, inf, -inf, nan, FLT_MAX, FLT_MIN, 1e-40f};
     if (random_() % 8 == 0) return special[random_() % std::size(special)];
     return std::ldexp(between(-1, 1), static_cast<int>(random_() % 60) - 30);
 }
