@@ -41,16 +41,38 @@ ZEPM_INLINE bool ofRows(const MatrixCall& c, F f)
 // The rows of one object as if each were an object.
 ZEPM_INLINE RowOperand rowByRow(const RowOperand& operand, const char* p) { return {p, operand.rowStride, false, 0}; }
 
-template <class Op, class T>
-[[gnu::noinline]] void rowsOfEach(const MatrixCall& c)
+// Row i of the objects from k on.
+ZEPM_INLINE RowOperand rowOfEach(const RowOperand& operand, bool isList, ptrdiff_t k, ptrdiff_t i)
 {
-    Objects a(c, c.a), b(c, c.b), d(c, c.d);
-    for (ptrdiff_t k = 0; k < c.count; ++k)
+    const ptrdiff_t toRow = i * operand.rowStride;
+    if (operand.isFixed) return {operand.p + toRow, 0, true, 0};
+    if (isList) return {operand.p + k * static_cast<ptrdiff_t>(sizeof(char*)), operand.stride + toRow, false, 0};
+    return {operand.p + k * operand.stride + toRow, operand.stride, false, 0};
+}
+
+// Gapped rows: either all rows of one object after the other, or row i of as many objects as stay in the first cache
+// until their next row.
+template <class Op, class T>
+[[gnu::noinline]] void combineGapped(const MatrixCall& c)
+{
+    constexpr ptrdiff_t blockBytes = 8192;
+    const ptrdiff_t block = blockBytes / (c.width * c.height * sz<T>);
+    if (block < c.height)
     {
-        ZEPM_LEVEL::combineRows<Op, T>({rowByRow(c.a, a.at()), c.isConstant ? c.b : rowByRow(c.b, b.at()),
-                                        rowByRow(c.d, d.at()), c.isConstant, false, c.width, c.height});
-        a.next(), b.next(), d.next();
+        Objects a(c, c.a), b(c, c.b), d(c, c.d);
+        for (ptrdiff_t k = 0; k < c.count; ++k)
+        {
+            ZEPM_LEVEL::combineRows<Op, T>({rowByRow(c.a, a.at()), c.isConstant ? c.b : rowByRow(c.b, b.at()),
+                                            rowByRow(c.d, d.at()), c.isConstant, false, c.width, c.height});
+            a.next(), b.next(), d.next();
+        }
+        return;
     }
+    for (ptrdiff_t k = 0; k < c.count; k += block)
+        for (ptrdiff_t i = 0; i < c.height; ++i)
+            ZEPM_LEVEL::combineRows<Op, T>({rowOfEach(c.a, c.isList, k, i), rowOfEach(c.b, c.isList, k, i),
+                                            rowOfEach(c.d, c.isList, k, i), c.isConstant, c.isList, c.width,
+                                            c.count - k < block ? c.count - k : block});
 }
 
 template <class Op, class T>
@@ -73,7 +95,7 @@ ZEPM_INLINE void combineAsRows(const MatrixCall& c)
         rows.count *= c.height;
         return ZEPM_LEVEL::combineRows<Op, T>(rows);
     }
-    rowsOfEach<Op, T>(c);
+    combineGapped<Op, T>(c);
 }
 
 // ---- Tiles ----------------------------------------------------------------------------------------------------------
@@ -157,18 +179,84 @@ template <int Order, Second second, class T, class Op>
 [[gnu::noinline]] void tilesOfEach(Op op, const MatrixCall& c)
 {
     Objects a(c, c.a), b(c, c.b), d(c, c.d);
-    T constant{};
-    if constexpr (second == Second::Constant) constant = load<T>(c.b.p);
-    for (ptrdiff_t k = 0; k < c.count; ++k)
+    Tiles<second, T, Op> object{op, nullptr, nullptr, nullptr, c.a.rowStride, c.b.rowStride, c.d.rowStride, T{}};
+    if constexpr (second == Second::Constant) object.constant = load<T>(c.b.p);
+    const ptrdiff_t count = c.count, width = c.width, height = c.height;
+    for (ptrdiff_t k = 0; k < count; ++k)
     {
-        const Tiles<second, T, Op> object{
-            op, a.at(), b.at(), const_cast<char*>(d.at()), c.a.rowStride, c.b.rowStride, c.d.rowStride, constant};
+        object.a = a.at(), object.b = b.at(), object.d = const_cast<char*>(d.at());
         if constexpr (Order > 0)
             object.template square<Order, smallTile<T>>();
         else
-            object.template region<lanes<T>>(0, c.height, 0, c.width);
+            object.template region<lanes<T>>(0, height, 0, width);
         a.next(), b.next(), d.next();
     }
+}
+
+// ---- Dense matrices of few elements ---------------------------------------------------------------------------------
+
+// The registers that hold a dense matrix whole, but for a last element that transposition leaves in its place: one or
+// two of N elements, or none.
+template <class T, int Order>
+struct Whole
+{
+    static constexpr int size = Order * Order / 2 * 2;
+    static constexpr int N = size <= lanes<T> ? size : lanes<T>;
+    static constexpr bool fits = Order <= 4 && size % N == 0 && size / N <= 2 && N >= 4;
+
+    // Lane l of register R of the transpose.
+    template <int R>
+    struct Place
+    {
+        constexpr int operator()(int lane) const { return (R * N + lane) % Order * Order + (R * N + lane) / Order; }
+    };
+};
+
+// Successive objects in S, without gaps or with any distance from object to object.
+template <int Order, Second second, class T, class Op>
+[[gnu::noinline]] void wholeOfEach(Op op, const MatrixCall& c)
+{
+    using Matrix = Whole<T, Order>;
+    constexpr int N = Matrix::N, registers = Matrix::size / N;
+    const char *a = c.a.p, *b = c.b.p;
+    char* d = const_cast<char*>(c.d.p);
+    const ptrdiff_t aStep = c.a.isFixed ? 0 : c.a.stride, bStep = c.b.isFixed ? 0 : c.b.stride, dStep = c.d.stride;
+    T constant{};
+    if constexpr (second == Second::Constant) constant = load<T>(b);
+    for (ptrdiff_t count = c.count; count > 0; --count)
+    {
+        Vec<T, N> x[2] = {};
+        forEachIndex<registers>([&]<int R>() __attribute__((always_inline)) {
+            x[R] = loadVec<T, N>(a + R * N * sz<T>);
+            if constexpr (second == Second::Transposed) x[R] = op(x[R], loadVec<T, N>(b + R * N * sz<T>));
+            if constexpr (second == Second::Constant) x[R] = op(x[R], broadcast<T, N>(constant));
+        });
+        const Vec<T, N> high = registers == 2 ? x[1] : x[0];
+        forEachIndex<registers>([&]<int R>() __attribute__((always_inline)) {
+            Vec<T, N> y = shuffle<T, N>(x[0], high, typename Matrix::template Place<R>{});
+            if constexpr (second == Second::Normal) y = op(y, loadVec<T, N>(b + R * N * sz<T>));
+            storeVec<T, N>(d + R * N * sz<T>, y);
+        });
+        if constexpr (Matrix::size < Order * Order)
+        {
+            constexpr ptrdiff_t last = Matrix::size * sz<T>;
+            T y = constant;
+            if constexpr (second != Second::Constant) y = load<T>(b + last);
+            store<T>(d + last, op(load<T>(a + last), y));
+        }
+        a += aStep, b += bStep, d += dStep;
+    }
+}
+
+template <int Order, Second second, class T, class Op>
+ZEPM_INLINE void squareOfEach(Op op, const MatrixCall& c)
+{
+    if constexpr (Whole<T, Order>::fits)
+    {
+        if (!c.isList && ofRows(c, [](const RowOperand& x) { return x.rowStride == Order * sz<T>; }))
+            return wholeOfEach<Order, second, T>(op, c);
+    }
+    tilesOfEach<Order, second, T>(op, c);
 }
 
 template <Second second, class T, class Op>
@@ -176,10 +264,10 @@ ZEPM_INLINE void combineTransposed(Op op, const MatrixCall& c)
 {
     switch (c.width == c.height ? c.width : 0)
     {
-    case 3: return tilesOfEach<3, second, T>(op, c);
-    case 4: return tilesOfEach<4, second, T>(op, c);
-    case 5: return tilesOfEach<5, second, T>(op, c);
-    case 6: return tilesOfEach<6, second, T>(op, c);
+    case 3: return squareOfEach<3, second, T>(op, c);
+    case 4: return squareOfEach<4, second, T>(op, c);
+    case 5: return squareOfEach<5, second, T>(op, c);
+    case 6: return squareOfEach<6, second, T>(op, c);
     default: return tilesOfEach<0, second, T>(op, c);
     }
 }

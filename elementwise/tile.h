@@ -30,6 +30,29 @@ ZEPM_INLINE Vec<T, N> shuffle(Vec<T, N> x, Vec<T, N> y, Place)
 
 // ---- Parts of a vector ----------------------------------------------------------------------------------------------
 
+// The lower half of a vector; the upper lanes are not defined.
+template <class T, int N>
+ZEPM_INLINE Vec<T, N> loadHalf(const char* p)
+{
+    constexpr int half = N / 2;
+    if constexpr (half == 1)
+        return Vec<T, N>{load<T>(p)};
+    else
+        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+        {
+            const Vec<T, half> x = loadVec<T, half>(p);
+            return __builtin_shufflevector(x, x, (Lane < half ? Lane : -1)...);
+        }
+    (std::make_integer_sequence<int, N>{});
+}
+
+// The lower half of x and that of y.
+template <int N>
+struct LowHalves
+{
+    constexpr int operator()(int lane) const { return lane < N / 2 ? lane : N / 2 + lane; }
+};
+
 // The first Count elements of a vector of N; the other lanes are not defined. No element behind them is read.
 template <class T, int N, int Count>
 ZEPM_INLINE Vec<T, N> loadPart(const char* p)
@@ -39,18 +62,17 @@ ZEPM_INLINE Vec<T, N> loadPart(const char* p)
         return loadVec<T, N>(p);
     else if constexpr (Count == 1)
         return Vec<T, N>{load<T>(p)};
+    else if constexpr (Count == half)
+        return loadHalf<T, N>(p);
+    else if constexpr (Count > half)
+        return shuffle<T, N>(loadHalf<T, N>(p), loadPart<T, N, Count - half>(p + half * sizeof(T)), LowHalves<N>{});
     else
-    {
-        constexpr int inLow = Count < half ? Count : half;
-        const Vec<T, half> low = loadPart<T, half, inLow>(p);
-        Vec<T, half> high = low;
-        if constexpr (Count > half) high = loadPart<T, half, Count - half>(p + half * sizeof(T));
         return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
         {
-            return __builtin_shufflevector(low, high, (Lane < Count ? Lane : -1)...);
+            const Vec<T, half> x = loadPart<T, half, Count>(p);
+            return __builtin_shufflevector(x, x, (Lane < half ? Lane : -1)...);
         }
-        (std::make_integer_sequence<int, N>{});
-    }
+    (std::make_integer_sequence<int, N>{});
 }
 
 // Lanes First to First + Count - 1.

@@ -361,10 +361,12 @@ Case caseWithEstimate(const Function& function, int32 wanted, bool atOrAbove)
     Case best;
     int32 nearest = 0;
     bool found = false;
-    const size_t sizeCount = function.sizeNames.size();
-    for (int size = 1; size <= 60; ++size)
+    const bool isAnyShape = function.sizeNames == std::vector<std::string>{"width", "height"};
+    for (int size = 1; size <= 120; ++size)
     {
-        const std::vector<int> sizes(sizeCount, size);
+        // Equal sizes, or a matrix twice as high as it is wide: some estimates need one, some the other.
+        std::vector<int> sizes(function.sizeNames.size(), (size + 1) / 2);
+        if (isAnyShape && size % 2 == 0) sizes[1] *= 2;
         for (int count = 2; count <= 6000; ++count)
         {
             const int32 estimate = function.estimate(sizes, count);
