@@ -174,7 +174,7 @@ TEST_P(Lane, InPlace)
 {
     if (!function.worksInPlace) return;
     const Operand& dst =
-        *std::find_if(function.operands.begin(), function.operands.end(), [](const Operand& o) { return o.isDst; });
+        *std::find_if(function.operands.begin(), function.operands.end(), [](const Operand& o) { return o.name == "dst"; });
     for (const int32 level : levels())
     {
         const AtLevel atLevel(level);
@@ -200,7 +200,7 @@ TEST_P(ArrayLane, FarApart)
             Case chosen{function.sizesToTry[3], 4, strides, {}};
             // Few objects with work enough for the driver.
             if (strides != Strides::FarElements && function.hasDriver())
-                chosen.sizes.assign(chosen.sizes.size(), function.sizeNames.size() == 1 ? 1300 : 40);
+                chosen.sizes.assign(chosen.sizes.size(), function.sizeNames[0] == "len" ? 1300 : 40);
             if (!takes(chosen)) continue;
             trial.prepare(chosen);
             EXPECT_EQ(trial.call(Trial::values(trial.args())), stsOk) << words(chosen);
