@@ -166,8 +166,8 @@ ZEPM_INLINE Status factorUnrolled(const X& x, const Source& source, const Destin
                                                         groupOf<W>(destination, k, size)))
                 continue;
             for (int32 n = k; n < k + size; ++n)
-                if (const Status status = factorOne<T, N>(groupOf<1>(source, n, 1), x.pivots.object(n, N),
-                                                          groupOf<1>(destination, n, 1)))
+                if (const Status status =
+                        factorOne<T, N>(groupOf<1>(source, n, 1), x.pivots.object(n, N), groupOf<1>(destination, n, 1)))
                     return status;
         }
         return stsOk;
@@ -190,16 +190,15 @@ ZEPM_INLINE void subtractRow(const StridedObject<T, true>& d, int32 i, T multipl
     auto step = [&]<int M>() __attribute__((always_inline))
     {
         const ptrdiff_t at = j * static_cast<ptrdiff_t>(sizeof(T));
-        storeVec<T, M>(row + at,
-                       loadVec<T, M>(row + at) - broadcast<T, M>(multiplier) * loadVec<T, M>(pivotRow + at));
+        storeVec<T, M>(row + at, loadVec<T, M>(row + at) - broadcast<T, M>(multiplier) * loadVec<T, M>(pivotRow + at));
         j += M;
     };
     while (n - j >= lanes<T>) step.template operator()<lanes<T>>();
-    if constexpr (lanes<T> > 8)
+    if constexpr (lanes < T >> 8)
     {
         if (n - j >= 8) step.template operator()<8>();
     }
-    if constexpr (lanes<T> > 4)
+    if constexpr (lanes < T >> 4)
     {
         if (n - j >= 4) step.template operator()<4>();
     }

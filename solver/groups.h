@@ -193,8 +193,9 @@ struct Group<StridedObject<T, Contiguous>, W>
     // Element (0, j) of each lane, j its own.
     ZEPM_INLINE Vec<Element, W> getAcross(const LaneRows<W>& rows) const
     {
-        return eachLane<Element, W>(
-            [&](int n) __attribute__((always_inline)) { return load<T>(p[n] + rows.row[n] * stride2); });
+        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
+            return load<T>(p[n] + rows.row[n] * stride2);
+        });
     }
     // The N elements of a row of each lane.
     template <int N>
@@ -266,8 +267,9 @@ struct Group<TableObject<T>, W>
     }
     ZEPM_INLINE Vec<Element, W> getAcross(const LaneRows<W>& rows) const
     {
-        return eachLane<Element, W>(
-            [&](int n) __attribute__((always_inline)) { return load<T>(bytes(pp[rows.row[n]]) + offset[n]); });
+        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
+            return load<T>(bytes(pp[rows.row[n]]) + offset[n]);
+        });
     }
     template <int N>
     ZEPM_INLINE void readRow(const LaneRows<W>& rows, Vec<Element, W>* x) const

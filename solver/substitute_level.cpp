@@ -2,8 +2,8 @@
 //
 // Orders 3 to 6 are straight-line code on local values, in arrays one system in each lane. All other orders work in the
 // destination.
-#include "solver/substitute.h"
 #include "solver/groups.h"
+#include "solver/substitute.h"
 
 namespace zepm::ZEPM_LEVEL
 {
@@ -65,7 +65,8 @@ template <class T, int N, int W, class Matrix, class Rhs, class Destination>
         matrix.template readRow<N>(pivots.rows[i], f[i]);
         y[i] = rhs.getAcross(pivots.rows[i]);
     }
-    solve(f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x / f[i][i]; });
+    solve(
+        f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x / f[i][i]; });
     destination.template writeRow<N>(sameRow<W>(0), y);
 }
 
@@ -104,7 +105,8 @@ template <class T, int N, int W, class Rhs, class Destination>
     {
         for (int i = 0; i < N; ++i) y[i] = rhs.getAcross(sameRow<W>(shared.row[i]));
     }
-    solve(shared.f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x * shared.reciprocal[i]; });
+    solve(
+        shared.f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x * shared.reciprocal[i]; });
     destination.template writeRow<N>(sameRow<W>(0), y);
 }
 

@@ -227,15 +227,15 @@ Function completed(Function f)
 std::vector<Function> solverFunctions()
 {
     return {
-        ROW(zepmLUDecomp_m_32f),           ROW(zepmLUDecomp_m_32f_P),        ROW(zepmLUDecomp_m_64f),
-        ROW(zepmLUDecomp_m_64f_P),         ROW(zepmLUDecomp_ma_32f),         ROW(zepmLUDecomp_ma_32f_L),
-        ROW(zepmLUDecomp_ma_32f_P),        ROW(zepmLUDecomp_ma_64f),         ROW(zepmLUDecomp_ma_64f_L),
-        ROW(zepmLUDecomp_ma_64f_P),        ROW(zepmLUBackSubst_mv_32f),      ROW(zepmLUBackSubst_mv_32f_P),
-        ROW(zepmLUBackSubst_mv_64f),       ROW(zepmLUBackSubst_mv_64f_P),    ROW(zepmLUBackSubst_mva_32f),
-        ROW(zepmLUBackSubst_mva_32f_L),    ROW(zepmLUBackSubst_mva_32f_P),   ROW(zepmLUBackSubst_mva_64f),
-        ROW(zepmLUBackSubst_mva_64f_L),    ROW(zepmLUBackSubst_mva_64f_P),   ROW(zepmLUBackSubst_mava_32f),
-        ROW(zepmLUBackSubst_mava_32f_L),   ROW(zepmLUBackSubst_mava_32f_P),  ROW(zepmLUBackSubst_mava_64f),
-        ROW(zepmLUBackSubst_mava_64f_L),   ROW(zepmLUBackSubst_mava_64f_P),
+        ROW(zepmLUDecomp_m_32f),         ROW(zepmLUDecomp_m_32f_P),       ROW(zepmLUDecomp_m_64f),
+        ROW(zepmLUDecomp_m_64f_P),       ROW(zepmLUDecomp_ma_32f),        ROW(zepmLUDecomp_ma_32f_L),
+        ROW(zepmLUDecomp_ma_32f_P),      ROW(zepmLUDecomp_ma_64f),        ROW(zepmLUDecomp_ma_64f_L),
+        ROW(zepmLUDecomp_ma_64f_P),      ROW(zepmLUBackSubst_mv_32f),     ROW(zepmLUBackSubst_mv_32f_P),
+        ROW(zepmLUBackSubst_mv_64f),     ROW(zepmLUBackSubst_mv_64f_P),   ROW(zepmLUBackSubst_mva_32f),
+        ROW(zepmLUBackSubst_mva_32f_L),  ROW(zepmLUBackSubst_mva_32f_P),  ROW(zepmLUBackSubst_mva_64f),
+        ROW(zepmLUBackSubst_mva_64f_L),  ROW(zepmLUBackSubst_mva_64f_P),  ROW(zepmLUBackSubst_mava_32f),
+        ROW(zepmLUBackSubst_mava_32f_L), ROW(zepmLUBackSubst_mava_32f_P), ROW(zepmLUBackSubst_mava_64f),
+        ROW(zepmLUBackSubst_mava_64f_L), ROW(zepmLUBackSubst_mava_64f_P),
     };
 }
 
