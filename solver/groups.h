@@ -302,6 +302,37 @@ ZEPM_INLINE auto groupOf(const View& view, int32 k, int32 size)
     return Group<decltype(view.object(0)), W>(view, k, size);
 }
 
+// The pivots of the objects of a group. I is int32 or const int32.
+template <class I, int N, int W>
+struct GroupPivots
+{
+    Bytes<I> p[W];
+
+    ZEPM_INLINE GroupPivots(const PivotBlock<I>& block, int32 k, int32 size)
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n) p[n] = bytes(block.object(k + (n < size ? n : size - 1), N).p);
+    }
+    ZEPM_INLINE void read(LaneRows<W> (&rows)[N]) const
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n)
+        {
+            ZEPM_UNROLL
+            for (int i = 0; i < N; ++i) rows[i].row[n] = PivotObject<I>{reinterpret_cast<I*>(p[n])}.get(i);
+        }
+    }
+    ZEPM_INLINE void write(const LaneRows<W> (&rows)[N]) const
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n)
+        {
+            ZEPM_UNROLL
+            for (int i = 0; i < N; ++i) PivotObject<I>{reinterpret_cast<I*>(p[n])}.set(i, rows[i].row[n]);
+        }
+    }
+};
+
 template <int W>
 ZEPM_INLINE LaneRows<W> sameRow(int32 row)
 {

@@ -34,36 +34,19 @@ ZEPM_INLINE void solve(const V (&f)[N][N], V (&y)[N], Finish finish)
     }
 }
 
-// The pivots of the objects of a group.
-template <int N, int W>
-struct GroupPivots
-{
-    LaneRows<W> rows[N];
-
-    template <class X>
-    ZEPM_INLINE GroupPivots(const X& x, int32 k, int32 size)
-    {
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n)
-        {
-            const PivotObject<const int32> pivots = x.pivots.object(k + (n < size ? n : size - 1), N);
-            ZEPM_UNROLL
-            for (int i = 0; i < N; ++i) rows[i].row[n] = pivots.get(i);
-        }
-    }
-};
-
 // Systems with a matrix each.
 template <class T, int N, int W, class Matrix, class Rhs, class Destination>
-[[gnu::noinline]] void solveGroup(const Group<Matrix, W>& matrix, const GroupPivots<N, W>& pivots,
+[[gnu::noinline]] void solveGroup(const Group<Matrix, W>& matrix, const GroupPivots<const int32, N, W>& pivots,
                                   const Group<Rhs, W>& rhs, const Group<Destination, W>& destination)
 {
+    LaneRows<W> rows[N];
+    pivots.read(rows);
     Vec<T, W> f[N][N], y[N];
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i)
     {
-        matrix.template readRow<N>(pivots.rows[i], f[i]);
-        y[i] = rhs.getAcross(pivots.rows[i]);
+        matrix.template readRow<N>(rows[i], f[i]);
+        y[i] = rhs.getAcross(rows[i]);
     }
     solve(
         f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x / f[i][i]; });
@@ -115,8 +98,8 @@ ZEPM_INLINE void solveUnrolled(const X& x, const Matrix& matrix, const Rhs& rhs,
 {
     auto solveFrom = [&]<int W>(int32 k, int32 size) __attribute__((always_inline))
     {
-        solveGroup<T, N>(groupOf<W>(matrix, k, size), GroupPivots<N, W>(x, k, size), groupOf<W>(rhs, k, size),
-                         groupOf<W>(destination, k, size));
+        solveGroup<T, N>(groupOf<W>(matrix, k, size), GroupPivots<const int32, N, W>(x.pivots, k, size),
+                         groupOf<W>(rhs, k, size), groupOf<W>(destination, k, size));
     };
     if constexpr (decltype(x.dst)::isArray)
     {
