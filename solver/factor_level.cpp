@@ -132,19 +132,23 @@ template <class T, int N, class Source, class Destination>
 
 // A group, if none of its matrices is singular; otherwise nothing is written.
 template <class T, int N, int W, class Source, class Destination>
-[[gnu::noinline]] bool factorGroup(const Group<Source, W>& source, const PivotObject<int32>& pivots, int32 size,
+[[gnu::noinline]] bool factorGroup(const Group<Source, W>& source, const GroupPivots<int32, N, W>& pivots,
                                    const Group<Destination, W>& destination)
 {
     Local<T, N, W> m;
     read(m, source);
     if (eliminate(m) < N) return false;
+    LaneRows<W> rows[N];
     ZEPM_UNROLL
     for (int p = 0; p < N; ++p)
     {
-        const LaneRows<W> rows = rowsOf(m, p);
-        for (int n = 0; n < size; ++n) pivots.set(n * N + p, rows.row[n]);
-        destination.template writeRow<N>(rows, m.a[p]);
+        rows[p] = rowsOf(m, p);
+        destination.template writeRow<N>(rows[p], m.a[p]);
     }
+    if constexpr (sizeof(T) == sizeof(int32))
+        storeTransposed<int32, W, N>(pivots.p, m.row);
+    else
+        pivots.write(rows);
     return true;
 }
 
@@ -162,12 +166,13 @@ ZEPM_INLINE Status factorUnrolled(const X& x, const Source& source, const Destin
         {
             const int32 k = x.count - left;
             const int32 size = left < W ? left : W;
-            if (size >= leastGroup && factorGroup<T, N>(groupOf<W>(source, k, size), x.pivots.object(k, N), size,
-                                                        groupOf<W>(destination, k, size)))
+            if (size >= leastGroup &&
+                factorGroup<T, N>(groupOf<W>(source, k, size), GroupPivots<int32, N, W>(x.pivots, k, size),
+                                  groupOf<W>(destination, k, size)))
                 continue;
             for (int32 n = k; n < k + size; ++n)
-                if (const Status status = factorOne<T, N>(groupOf<1>(source, n, 1), x.pivots.object(n, N),
-                                                          groupOf<1>(destination, n, 1)))
+                if (const Status status =
+                        factorOne<T, N>(groupOf<1>(source, n, 1), x.pivots.object(n, N), groupOf<1>(destination, n, 1)))
                     return status;
         }
         return stsOk;
@@ -190,16 +195,15 @@ ZEPM_INLINE void subtractRow(const StridedObject<T, true>& d, int32 i, T multipl
     auto step = [&]<int M>() __attribute__((always_inline))
     {
         const ptrdiff_t at = j * static_cast<ptrdiff_t>(sizeof(T));
-        storeVec<T, M>(row + at,
-                       loadVec<T, M>(row + at) - broadcast<T, M>(multiplier) * loadVec<T, M>(pivotRow + at));
+        storeVec<T, M>(row + at, loadVec<T, M>(row + at) - broadcast<T, M>(multiplier) * loadVec<T, M>(pivotRow + at));
         j += M;
     };
     while (n - j >= lanes<T>) step.template operator()<lanes<T>>();
-    if constexpr (lanes<T> > 8)
+    if constexpr (lanes < T >> 8)
     {
         if (n - j >= 8) step.template operator()<8>();
     }
-    if constexpr (lanes<T> > 4)
+    if constexpr (lanes < T >> 4)
     {
         if (n - j >= 4) step.template operator()<4>();
     }

@@ -97,12 +97,9 @@ struct Solving : SquareForm<Solving<Matrix, Rhs, Dst>>
     }
     ZEPM_INLINE Solving share(int32 first, int32 n) const
     {
-        return {matrix.from(first),
-                sharesMatrix ? pivots.p : pivots.from(first, widthHeight).p,
-                rhs.from(first),
-                dst.from(first),
-                widthHeight,
-                n};
+        return {matrix.from(first), sharesMatrix ? pivots.p : pivots.from(first, widthHeight).p,
+                rhs.from(first),    dst.from(first),
+                widthHeight,        n};
     }
     ZEPM_INLINE PivotObject<const int32> pivotsOf(int32 k) const
     {

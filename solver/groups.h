@@ -193,8 +193,9 @@ struct Group<StridedObject<T, Contiguous>, W>
     // Element (0, j) of each lane, j its own.
     ZEPM_INLINE Vec<Element, W> getAcross(const LaneRows<W>& rows) const
     {
-        return eachLane<Element, W>(
-            [&](int n) __attribute__((always_inline)) { return load<T>(p[n] + rows.row[n] * stride2); });
+        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
+            return load<T>(p[n] + rows.row[n] * stride2);
+        });
     }
     // The N elements of a row of each lane.
     template <int N>
@@ -266,8 +267,9 @@ struct Group<TableObject<T>, W>
     }
     ZEPM_INLINE Vec<Element, W> getAcross(const LaneRows<W>& rows) const
     {
-        return eachLane<Element, W>(
-            [&](int n) __attribute__((always_inline)) { return load<T>(bytes(pp[rows.row[n]]) + offset[n]); });
+        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
+            return load<T>(bytes(pp[rows.row[n]]) + offset[n]);
+        });
     }
     template <int N>
     ZEPM_INLINE void readRow(const LaneRows<W>& rows, Vec<Element, W>* x) const
@@ -299,6 +301,37 @@ ZEPM_INLINE auto groupOf(const View& view, int32 k, int32 size)
 {
     return Group<decltype(view.object(0)), W>(view, k, size);
 }
+
+// The pivots of the objects of a group. I is int32 or const int32.
+template <class I, int N, int W>
+struct GroupPivots
+{
+    Bytes<I> p[W];
+
+    ZEPM_INLINE GroupPivots(const PivotBlock<I>& block, int32 k, int32 size)
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n) p[n] = bytes(block.object(k + (n < size ? n : size - 1), N).p);
+    }
+    ZEPM_INLINE void read(LaneRows<W> (&rows)[N]) const
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n)
+        {
+            ZEPM_UNROLL
+            for (int i = 0; i < N; ++i) rows[i].row[n] = PivotObject<I>{reinterpret_cast<I*>(p[n])}.get(i);
+        }
+    }
+    ZEPM_INLINE void write(const LaneRows<W> (&rows)[N]) const
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n)
+        {
+            ZEPM_UNROLL
+            for (int i = 0; i < N; ++i) PivotObject<I>{reinterpret_cast<I*>(p[n])}.set(i, rows[i].row[n]);
+        }
+    }
+};
 
 template <int W>
 ZEPM_INLINE LaneRows<W> sameRow(int32 row)

@@ -2,8 +2,8 @@
 //
 // Orders 3 to 6 are straight-line code on local values, in arrays one system in each lane. All other orders work in the
 // destination.
-#include "solver/substitute.h"
 #include "solver/groups.h"
+#include "solver/substitute.h"
 
 namespace zepm::ZEPM_LEVEL
 {
@@ -34,38 +34,22 @@ ZEPM_INLINE void solve(const V (&f)[N][N], V (&y)[N], Finish finish)
     }
 }
 
-// The pivots of the objects of a group.
-template <int N, int W>
-struct GroupPivots
-{
-    LaneRows<W> rows[N];
-
-    template <class X>
-    ZEPM_INLINE GroupPivots(const X& x, int32 k, int32 size)
-    {
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n)
-        {
-            const PivotObject<const int32> pivots = x.pivots.object(k + (n < size ? n : size - 1), N);
-            ZEPM_UNROLL
-            for (int i = 0; i < N; ++i) rows[i].row[n] = pivots.get(i);
-        }
-    }
-};
-
 // Systems with a matrix each.
 template <class T, int N, int W, class Matrix, class Rhs, class Destination>
-[[gnu::noinline]] void solveGroup(const Group<Matrix, W>& matrix, const GroupPivots<N, W>& pivots,
+[[gnu::noinline]] void solveGroup(const Group<Matrix, W>& matrix, const GroupPivots<const int32, N, W>& pivots,
                                   const Group<Rhs, W>& rhs, const Group<Destination, W>& destination)
 {
+    LaneRows<W> rows[N];
+    pivots.read(rows);
     Vec<T, W> f[N][N], y[N];
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i)
     {
-        matrix.template readRow<N>(pivots.rows[i], f[i]);
-        y[i] = rhs.getAcross(pivots.rows[i]);
+        matrix.template readRow<N>(rows[i], f[i]);
+        y[i] = rhs.getAcross(rows[i]);
     }
-    solve(f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x / f[i][i]; });
+    solve(
+        f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x / f[i][i]; });
     destination.template writeRow<N>(sameRow<W>(0), y);
 }
 
@@ -104,7 +88,8 @@ template <class T, int N, int W, class Rhs, class Destination>
     {
         for (int i = 0; i < N; ++i) y[i] = rhs.getAcross(sameRow<W>(shared.row[i]));
     }
-    solve(shared.f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x * shared.reciprocal[i]; });
+    solve(
+        shared.f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x * shared.reciprocal[i]; });
     destination.template writeRow<N>(sameRow<W>(0), y);
 }
 
@@ -113,8 +98,8 @@ ZEPM_INLINE void solveUnrolled(const X& x, const Matrix& matrix, const Rhs& rhs,
 {
     auto solveFrom = [&]<int W>(int32 k, int32 size) __attribute__((always_inline))
     {
-        solveGroup<T, N>(groupOf<W>(matrix, k, size), GroupPivots<N, W>(x, k, size), groupOf<W>(rhs, k, size),
-                         groupOf<W>(destination, k, size));
+        solveGroup<T, N>(groupOf<W>(matrix, k, size), GroupPivots<const int32, N, W>(x.pivots, k, size),
+                         groupOf<W>(rhs, k, size), groupOf<W>(destination, k, size));
     };
     if constexpr (decltype(x.dst)::isArray)
     {

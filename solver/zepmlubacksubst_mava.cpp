@@ -56,12 +56,8 @@ Status zepmLUBackSubst_mava_32f_P(const float32* const* ppSrc, int32 srcRoiShift
                                   int32 src2Stride0, float32* const* ppDst, int32 dstRoiShift, int32 dstStride0,
                                   int32 widthHeight, int32 count)
 {
-    const SolveMava<float32, P> x{{ppSrc, srcRoiShift, srcStride0},
-                                  pSrcIndex,
-                                  {ppSrc2, src2RoiShift, src2Stride0},
-                                  {ppDst, dstRoiShift, dstStride0},
-                                  widthHeight,
-                                  count};
+    const SolveMava<float32, P> x{{ppSrc, srcRoiShift, srcStride0}, pSrcIndex,   {ppSrc2, src2RoiShift, src2Stride0},
+                                  {ppDst, dstRoiShift, dstStride0}, widthHeight, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1201>{},
                  ownLUBackSubst_mava_32f_P, ownOMP_zepmLUBackSubst_mava_32f_P);
 }
@@ -101,12 +97,8 @@ Status zepmLUBackSubst_mava_64f_P(const float64* const* ppSrc, int32 srcRoiShift
                                   int32 src2Stride0, float64* const* ppDst, int32 dstRoiShift, int32 dstStride0,
                                   int32 widthHeight, int32 count)
 {
-    const SolveMava<float64, P> x{{ppSrc, srcRoiShift, srcStride0},
-                                  pSrcIndex,
-                                  {ppSrc2, src2RoiShift, src2Stride0},
-                                  {ppDst, dstRoiShift, dstStride0},
-                                  widthHeight,
-                                  count};
+    const SolveMava<float64, P> x{{ppSrc, srcRoiShift, srcStride0}, pSrcIndex,   {ppSrc2, src2RoiShift, src2Stride0},
+                                  {ppDst, dstRoiShift, dstStride0}, widthHeight, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1201>{},
                  ownLUBackSubst_mava_64f_P, ownOMP_zepmLUBackSubst_mava_64f_P);
 }

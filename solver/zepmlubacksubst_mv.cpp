@@ -21,11 +21,8 @@ Status zepmLUBackSubst_mv_32f(const float32* pSrc, int32 srcStride1, int32 srcSt
                               const float32* pSrc2, int32 src2Stride2, float32* pDst, int32 dstStride2,
                               int32 widthHeight)
 {
-    const SolveMv<float32, S> x{{pSrc, srcStride1, srcStride2},
-                                pSrcIndex,
-                                {pSrc2, src2Stride2},
-                                {pDst, dstStride2},
-                                widthHeight};
+    const SolveMv<float32, S> x{
+        {pSrc, srcStride1, srcStride2}, pSrcIndex, {pSrc2, src2Stride2}, {pDst, dstStride2}, widthHeight};
     return enter(x, order<Pointers, Sizes, Strides>{}, ownLUBackSubst_mv_32f_Packed, ownLUBackSubst_mv_32f_Strided);
 }
 
@@ -33,11 +30,8 @@ Status zepmLUBackSubst_mv_32f_P(const float32* const* ppSrc, int32 srcRoiShift, 
                                 const float32* const* ppSrc2, int32 src2RoiShift, float32* const* ppDst,
                                 int32 dstRoiShift, int32 widthHeight)
 {
-    const SolveMv<float32, P> x{{ppSrc, srcRoiShift},
-                                pSrcIndex,
-                                {ppSrc2, src2RoiShift},
-                                {ppDst, dstRoiShift},
-                                widthHeight};
+    const SolveMv<float32, P> x{
+        {ppSrc, srcRoiShift}, pSrcIndex, {ppSrc2, src2RoiShift}, {ppDst, dstRoiShift}, widthHeight};
     return enter(x, order<Pointers, Sizes, RoiShifts>{}, ownLUBackSubst_mv_32f_P);
 }
 
@@ -45,11 +39,8 @@ Status zepmLUBackSubst_mv_64f(const float64* pSrc, int32 srcStride1, int32 srcSt
                               const float64* pSrc2, int32 src2Stride2, float64* pDst, int32 dstStride2,
                               int32 widthHeight)
 {
-    const SolveMv<float64, S> x{{pSrc, srcStride1, srcStride2},
-                                pSrcIndex,
-                                {pSrc2, src2Stride2},
-                                {pDst, dstStride2},
-                                widthHeight};
+    const SolveMv<float64, S> x{
+        {pSrc, srcStride1, srcStride2}, pSrcIndex, {pSrc2, src2Stride2}, {pDst, dstStride2}, widthHeight};
     return enter(x, order<Pointers, Sizes, Strides>{}, ownLUBackSubst_mv_64f_Packed, ownLUBackSubst_mv_64f_Strided);
 }
 
@@ -57,10 +48,7 @@ Status zepmLUBackSubst_mv_64f_P(const float64* const* ppSrc, int32 srcRoiShift, 
                                 const float64* const* ppSrc2, int32 src2RoiShift, float64* const* ppDst,
                                 int32 dstRoiShift, int32 widthHeight)
 {
-    const SolveMv<float64, P> x{{ppSrc, srcRoiShift},
-                                pSrcIndex,
-                                {ppSrc2, src2RoiShift},
-                                {ppDst, dstRoiShift},
-                                widthHeight};
+    const SolveMv<float64, P> x{
+        {ppSrc, srcRoiShift}, pSrcIndex, {ppSrc2, src2RoiShift}, {ppDst, dstRoiShift}, widthHeight};
     return enter(x, order<Pointers, Sizes, RoiShifts>{}, ownLUBackSubst_mv_64f_P);
 }

@@ -25,12 +25,8 @@ Status zepmLUBackSubst_mva_32f(const float32* pSrc, int32 srcStride1, int32 srcS
                                const float32* pSrc2, int32 src2Stride0, int32 src2Stride2, float32* pDst,
                                int32 dstStride0, int32 dstStride2, int32 widthHeight, int32 count)
 {
-    const SolveMva<float32, S> x{{pSrc, srcStride1, srcStride2},
-                                 pSrcIndex,
-                                 {pSrc2, src2Stride0, src2Stride2},
-                                 {pDst, dstStride0, dstStride2},
-                                 widthHeight,
-                                 count};
+    const SolveMva<float32, S> x{{pSrc, srcStride1, srcStride2}, pSrcIndex,   {pSrc2, src2Stride0, src2Stride2},
+                                 {pDst, dstStride0, dstStride2}, widthHeight, count};
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<701>{}, ownLUBackSubst_mva_32f_Packed,
                  ownLUBackSubst_mva_32f_Strided, ownOMP_zepmLUBackSubst_mva_32f);
 }
@@ -40,12 +36,8 @@ Status zepmLUBackSubst_mva_32f_L(const float32* pSrc, int32 srcStride1, int32 sr
                                  float32* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 widthHeight,
                                  int32 count)
 {
-    const SolveMva<float32, L> x{{pSrc, srcStride1, srcStride2},
-                                 pSrcIndex,
-                                 {ppSrc2, src2RoiShift, src2Stride2},
-                                 {ppDst, dstRoiShift, dstStride2},
-                                 widthHeight,
-                                 count};
+    const SolveMva<float32, L> x{{pSrc, srcStride1, srcStride2},   pSrcIndex,   {ppSrc2, src2RoiShift, src2Stride2},
+                                 {ppDst, dstRoiShift, dstStride2}, widthHeight, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<701>{},
                  ownLUBackSubst_mva_32f_L_Packed, ownLUBackSubst_mva_32f_L_Strided, ownOMP_zepmLUBackSubst_mva_32f_L);
 }
@@ -55,12 +47,9 @@ Status zepmLUBackSubst_mva_32f_P(const float32* const* ppSrc, int32 srcRoiShift,
                                  float32* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 widthHeight,
                                  int32 count)
 {
-    const SolveMva<float32, P> x{{ppSrc, srcRoiShift},
-                                 pSrcIndex,
-                                 {ppSrc2, src2RoiShift, src2Stride0},
-                                 {ppDst, dstRoiShift, dstStride0},
-                                 widthHeight,
-                                 count};
+    const SolveMva<float32, P> x{
+        {ppSrc, srcRoiShift}, pSrcIndex, {ppSrc2, src2RoiShift, src2Stride0}, {ppDst, dstRoiShift, dstStride0},
+        widthHeight,          count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<701>{}, ownLUBackSubst_mva_32f_P,
                  ownOMP_zepmLUBackSubst_mva_32f_P);
 }
@@ -69,12 +58,8 @@ Status zepmLUBackSubst_mva_64f(const float64* pSrc, int32 srcStride1, int32 srcS
                                const float64* pSrc2, int32 src2Stride0, int32 src2Stride2, float64* pDst,
                                int32 dstStride0, int32 dstStride2, int32 widthHeight, int32 count)
 {
-    const SolveMva<float64, S> x{{pSrc, srcStride1, srcStride2},
-                                 pSrcIndex,
-                                 {pSrc2, src2Stride0, src2Stride2},
-                                 {pDst, dstStride0, dstStride2},
-                                 widthHeight,
-                                 count};
+    const SolveMva<float64, S> x{{pSrc, srcStride1, srcStride2}, pSrcIndex,   {pSrc2, src2Stride0, src2Stride2},
+                                 {pDst, dstStride0, dstStride2}, widthHeight, count};
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<701>{}, ownLUBackSubst_mva_64f_Packed,
                  ownLUBackSubst_mva_64f_Strided, ownOMP_zepmLUBackSubst_mva_64f);
 }
@@ -84,12 +69,8 @@ Status zepmLUBackSubst_mva_64f_L(const float64* pSrc, int32 srcStride1, int32 sr
                                  float64* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 widthHeight,
                                  int32 count)
 {
-    const SolveMva<float64, L> x{{pSrc, srcStride1, srcStride2},
-                                 pSrcIndex,
-                                 {ppSrc2, src2RoiShift, src2Stride2},
-                                 {ppDst, dstRoiShift, dstStride2},
-                                 widthHeight,
-                                 count};
+    const SolveMva<float64, L> x{{pSrc, srcStride1, srcStride2},   pSrcIndex,   {ppSrc2, src2RoiShift, src2Stride2},
+                                 {ppDst, dstRoiShift, dstStride2}, widthHeight, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<701>{},
                  ownLUBackSubst_mva_64f_L_Packed, ownLUBackSubst_mva_64f_L_Strided, ownOMP_zepmLUBackSubst_mva_64f_L);
 }
@@ -99,12 +80,9 @@ Status zepmLUBackSubst_mva_64f_P(const float64* const* ppSrc, int32 srcRoiShift,
                                  float64* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 widthHeight,
                                  int32 count)
 {
-    const SolveMva<float64, P> x{{ppSrc, srcRoiShift},
-                                 pSrcIndex,
-                                 {ppSrc2, src2RoiShift, src2Stride0},
-                                 {ppDst, dstRoiShift, dstStride0},
-                                 widthHeight,
-                                 count};
+    const SolveMva<float64, P> x{
+        {ppSrc, srcRoiShift}, pSrcIndex, {ppSrc2, src2RoiShift, src2Stride0}, {ppDst, dstRoiShift, dstStride0},
+        widthHeight,          count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<701>{}, ownLUBackSubst_mva_64f_P,
                  ownOMP_zepmLUBackSubst_mva_64f_P);
 }

@@ -50,11 +50,8 @@ Status zepmLUDecomp_ma_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int
 Status zepmLUDecomp_ma_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 srcStride0, int32* pDstIndex,
                              float32* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 widthHeight, int32 count)
 {
-    const FactorMa<float32, P> x{{ppSrc, srcRoiShift, srcStride0},
-                                 pDstIndex,
-                                 {ppDst, dstRoiShift, dstStride0},
-                                 widthHeight,
-                                 count};
+    const FactorMa<float32, P> x{
+        {ppSrc, srcRoiShift, srcStride0}, pDstIndex, {ppDst, dstRoiShift, dstStride0}, widthHeight, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1001>{}, ownLUDecomp_ma_32f_P,
                  ownOMP_zepmLUDecomp_ma_32f_P);
 }
@@ -88,11 +85,8 @@ Status zepmLUDecomp_ma_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int
 Status zepmLUDecomp_ma_64f_P(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride0, int32* pDstIndex,
                              float64* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 widthHeight, int32 count)
 {
-    const FactorMa<float64, P> x{{ppSrc, srcRoiShift, srcStride0},
-                                 pDstIndex,
-                                 {ppDst, dstRoiShift, dstStride0},
-                                 widthHeight,
-                                 count};
+    const FactorMa<float64, P> x{
+        {ppSrc, srcRoiShift, srcStride0}, pDstIndex, {ppDst, dstRoiShift, dstStride0}, widthHeight, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1001>{}, ownLUDecomp_ma_64f_P,
                  ownOMP_zepmLUDecomp_ma_64f_P);
 }

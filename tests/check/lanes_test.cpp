@@ -174,7 +174,7 @@ TEST_P(Lane, InPlace)
 {
     if (!function.worksInPlace) return;
     const Operand& dst =
-        *std::find_if(function.operands.begin(), function.operands.end(), [](const Operand& o) { return o.isDst; });
+        *std::find_if(function.operands.begin(), function.operands.end(), [](const Operand& o) { return o.name == "dst"; });
     for (const int32 level : levels())
     {
         const AtLevel atLevel(level);
@@ -200,7 +200,9 @@ TEST_P(ArrayLane, FarApart)
             Case chosen{function.sizesToTry[3], 4, strides, {}};
             // Few objects with work enough for the driver.
             if (strides != Strides::FarElements && function.hasDriver())
-                while (function.estimate(chosen.sizes, chosen.count) < function.limits.general && chosen.sizes[0] < 1300)
+                while (function.estimate(chosen.sizes, chosen.count) <
+                           std::max(function.limits.packed, function.limits.general) &&
+                       chosen.sizes[0] < 2000)
                     for (int& size : chosen.sizes) ++size;
             if (!takes(chosen)) continue;
             trial.prepare(chosen);
