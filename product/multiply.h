@@ -1,8 +1,9 @@
 // The kernels of the products: d(i, j) = sum over k of a(i, k) * b(k, j) for each object, whatever the operands are.
 #pragma once
 
-#include "frame/lanes.h"
 #include "product/forms.h"
+#include "product/products.h"
+#include "product/wide.h"
 
 namespace zepm
 {
@@ -131,11 +132,57 @@ ZEPM_INLINE int32 firstRowInPairs(const X& x)
     return left <= most ? x.rows() - left : x.rows();
 }
 
-// Contiguous elements.
+template <class T, bool IsArray>
+ZEPM_INLINE MatrixOperand matrixOf(const StridedBlock<T, IsArray, 2>& block)
+{
+    return {bytes(block.p), block.stride0, block.stride1, !IsArray};
+}
+template <class T>
+ZEPM_INLINE MatrixOperand matrixOf(const ListBlock<T, 2>& block)
+{
+    return {reinterpret_cast<const char*>(block.pp), block.roiShift, block.stride1, false};
+}
+
+template <class>
+inline constexpr bool isList = false;
+template <class T>
+inline constexpr bool isList<ListBlock<T, 2>> = true;
+
+template <class X>
+[[gnu::noinline]] void multiplyWide(const X& x, int32 order)
+{
+    using Dst = decltype(x.dst);
+    multiplyMatrices<typename Dst::Element, X::transposes1, X::transposes2>(
+        {matrixOf(x.src1), matrixOf(x.src2), matrixOf(x.dst), isList<Dst>, x.count, order, x.rows(), x.inner(),
+         x.cols(), firstRowInPairs(x)});
+}
+
+template <int Order, class X>
+ZEPM_INLINE Status multiplyPair(const X& x)
+{
+    ssse3::multiplyPair<typename decltype(x.dst)::Element, Order, X::transposes1, X::transposes2>(
+        matrixOf(x.src1), matrixOf(x.src2), matrixOf(x.dst));
+    return stsOk;
+}
+
+// Contiguous elements. One pair of an order goes without the choice of a level, which would cost as much as the
+// product.
 template <class X, class Orders>
 ZEPM_INLINE Status multiplyPacked(const X& x, Orders)
 {
-    multiplyViews<true>(x, Orders::of(x), firstRowInPairs(x));
+    const int32 order = Orders::of(x);
+    if constexpr (!decltype(x.dst)::isArray)
+    {
+        switch (order)
+        {
+        case 3: return multiplyPair<3>(x);
+        case 4: return multiplyPair<4>(x);
+        case 5: return multiplyPair<5>(x);
+        case 6: return multiplyPair<6>(x);
+        default: break;
+        }
+    }
+    multiplyWide(x, order);
     return stsOk;
 }
 

@@ -22,7 +22,7 @@ struct ProductCall
     MatrixOperand a, b, d;
     bool isList;
     ptrdiff_t count;
-    int32 order;        // of all sizes, 3 to 6, with sums from the first product; 0: sums from zero
+    int32 order; // of all sizes, 3 to 6, with sums from the first product; 0: sums from zero
     int32 rows, inner, cols;
     int32 firstInPairs; // the rows from here on sum even and odd products apart
 };

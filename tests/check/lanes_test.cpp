@@ -211,18 +211,20 @@ TEST_P(ArrayLane, FarApart)
         }
 }
 
-// Dense rows beyond the largest cache, whose results are stored past the caches.
+// Dense objects beyond the largest cache, whose results are stored past the caches.
 TEST_P(LongLane, BeyondTheCaches)
 {
     int32 cacheSize = 0;
     ASSERT_EQ(zepGetMaxCacheSizeB(&cacheSize), stsOk);
     if (cacheSize > 1 << 28) return; // too much memory for a test
     const int32 elements = cacheSize / (function.isFloat32 ? 4 : 8) / 2 + 100000;
+    const bool isMatrix = function.operands[0].letter != 'v';
+    const std::vector<int> sizes = isMatrix ? function.sizesToTry[3] : std::vector<int>{7};
     for (const int32 level : levels())
     {
         const AtLevel atLevel(level);
         for (const bool atEnd : {true, false})
-            if (!passes({{7}, elements / 7, Strides::Dense, {atEnd, 0}})) return;
+            if (!passes({sizes, elements / (isMatrix ? 9 : 7), Strides::Dense, {atEnd, 0}})) return;
     }
 }
 
@@ -480,7 +482,8 @@ INSTANTIATE_TEST_SUITE_P(All, ArrayLane,
 INSTANTIATE_TEST_SUITE_P(All, DriverLane,
                          testing::ValuesIn(functionsThat([](const Function& f) { return f.hasDriver(); })), nameOf);
 INSTANTIATE_TEST_SUITE_P(All, LongLane, testing::ValuesIn(functionsThat([](const Function& f) {
-                             return f.name == "zepmAdd_vava_32f" || f.name == "zepmSub_cva_64f";
+                             return f.name == "zepmAdd_vava_32f" || f.name == "zepmSub_cva_64f" ||
+                                    f.name == "zepmMul_mama_32f" || f.name == "zepmMul_tam_64f";
                          })),
                          nameOf);
 INSTANTIATE_TEST_SUITE_P(All, NarrowLane,

@@ -93,11 +93,12 @@ void multiply(const Function& f, Problem<T>& problem)
     const bool hasBody = shape.rows == shape.inner && shape.cols == shape.inner &&
                          std::count(orders.begin(), orders.end(), shape.inner) > 0;
     const int left = shape.rows % 4;
+    std::vector<T> all, even, odd, last;
     for (int k = 0; k < problem.count; ++k)
         for (int i = 0; i < shape.rows; ++i)
             for (int j = 0; j < shape.cols; ++j)
             {
-                std::vector<T> all, even, odd, last;
+                for (auto* terms : {&all, &even, &odd, &last}) terms->clear();
                 for (int n = 0; n < shape.inner; ++n)
                 {
                     const Tensor<T>&a = problem.operands[0], &b = problem.operands[1];
@@ -108,7 +109,7 @@ void multiply(const Function& f, Problem<T>& problem)
                 }
                 T& d = problem.operands[2].at(k, i, j);
                 if (hasBody)
-                    d = sum(all[0], {all.begin() + 1, all.end()});
+                    d = sum<T>(-T(0), all);
                 else if (isPacked && i >= shape.rows - left && left <= mostRowsInPairs(form))
                     d = sum<T>(sum<T>(0, even) + sum<T>(0, odd), last);
                 else
