@@ -17,12 +17,29 @@ struct IntegerOf<float64>
     using type = int64_t;
 };
 
+// Register by register: as a block of bytes the compilers copy it in pieces, on which the next load of a whole register
+// would wait.
+template <class Part, int Registers>
+ZEPM_INLINE void copyParts(Part (&to)[Registers], const Part (&from)[Registers])
+{
+    ZEPM_UNROLL
+    for (int r = 0; r < Registers; ++r) to[r] = from[r];
+}
+
 // All bits of a lane are set or clear.
 template <class T, int Registers>
 struct Mask
 {
     using Part = Vec<typename IntegerOf<T>::type, lanes<T>>;
     Part part[Registers];
+
+    Mask() = default;
+    ZEPM_INLINE Mask(const Mask& other) { copyParts(part, other.part); }
+    ZEPM_INLINE Mask& operator=(const Mask& other)
+    {
+        copyParts(part, other.part);
+        return *this;
+    }
 };
 
 // Several registers hide the latency of square roots and divisions behind each other.
@@ -38,6 +55,12 @@ struct Lanes
     {
         ZEPM_UNROLL
         for (int r = 0; r < Registers; ++r) part[r] = broadcast<T, lanes<T>>(x);
+    }
+    ZEPM_INLINE Lanes(const Lanes& other) { copyParts(part, other.part); }
+    ZEPM_INLINE Lanes& operator=(const Lanes& other)
+    {
+        copyParts(part, other.part);
+        return *this;
     }
     ZEPM_INLINE explicit Lanes(int32 index) : Lanes(static_cast<T>(index)) {}
 };
@@ -119,16 +142,22 @@ ZEPM_INLINE Lanes<T, R> select(const Mask<T, R>& mask, const Lanes<T, R>& yes, c
 // All lanes: the unmasked form of GCC 12 warns of an operand that it leaves undefined.
 ZEPM_INLINE auto squareRootOf(__m512 x) { return _mm512_maskz_sqrt_ps(static_cast<__mmask16>(-1), x); }
 ZEPM_INLINE auto squareRootOf(__m512d x) { return _mm512_maskz_sqrt_pd(static_cast<__mmask8>(-1), x); }
+ZEPM_INLINE auto narrowed(__m512d x) { return _mm512_maskz_cvtpd_ps(static_cast<__mmask8>(-1), x); }
+ZEPM_INLINE auto widened(__m256 x) { return _mm512_maskz_cvtps_pd(static_cast<__mmask8>(-1), x); }
 ZEPM_INLINE bool anySign(__m512 x) { return _mm512_movepi32_mask(_mm512_castps_si512(x)) != 0; }
 ZEPM_INLINE bool anySign(__m512d x) { return _mm512_movepi64_mask(_mm512_castpd_si512(x)) != 0; }
 #elif defined(__AVX2__)
 ZEPM_INLINE auto squareRootOf(__m256 x) { return _mm256_sqrt_ps(x); }
 ZEPM_INLINE auto squareRootOf(__m256d x) { return _mm256_sqrt_pd(x); }
+ZEPM_INLINE auto narrowed(__m256d x) { return _mm256_cvtpd_ps(x); }
+ZEPM_INLINE auto widened(__m128 x) { return _mm256_cvtps_pd(x); }
 ZEPM_INLINE bool anySign(__m256 x) { return _mm256_movemask_ps(x) != 0; }
 ZEPM_INLINE bool anySign(__m256d x) { return _mm256_movemask_pd(x) != 0; }
 #else
 ZEPM_INLINE auto squareRootOf(__m128 x) { return _mm_sqrt_ps(x); }
 ZEPM_INLINE auto squareRootOf(__m128d x) { return _mm_sqrt_pd(x); }
+ZEPM_INLINE auto narrowed(__m128d x) { return _mm_cvtpd_ps(x); }
+ZEPM_INLINE auto widened(__m128 x) { return _mm_cvtps_pd(x); }
 ZEPM_INLINE bool anySign(__m128 x) { return _mm_movemask_ps(x) != 0; }
 ZEPM_INLINE bool anySign(__m128d x) { return _mm_movemask_pd(x) != 0; }
 #endif
@@ -149,15 +178,8 @@ ZEPM_INLINE Lanes<T, R> squareRoot(const Lanes<T, R>& a)
 template <int R>
 ZEPM_INLINE Lanes<float64, R> asFloat32(const Lanes<float64, R>& a)
 {
-    constexpr int N = lanes<float64>;
     return inParts<Lanes<float64, R>>(
-        [](auto x) ZEPM_INLINED {
-            if constexpr (N == 2) // which the compilers would convert one by one
-                return _mm_cvtps_pd(_mm_cvtpd_ps(__m128d{x[0], x[1]}));
-            else
-                return __builtin_convertvector(__builtin_convertvector(x, Vec<float32, N>), Vec<float64, N>);
-        },
-        a);
+        [](auto x) ZEPM_INLINED { return widened(narrowed(RegisterOf<float64>::type(x))); }, a);
 }
 template <class T, int R>
 ZEPM_INLINE Lanes<T, R> magnitude(const Lanes<T, R>& a)

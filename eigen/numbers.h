@@ -13,16 +13,12 @@
 namespace zepm
 {
 
-// The order of the matrices of a group. A single object's order is an int32.
+// The order of a problem is an int32, or FixedOrder where loops over it are written out, so that all elements are in
+// registers or at known places. For larger orders that would outgrow the processor's instruction cache.
 template <int32 N>
 using FixedOrder = std::integral_constant<int32, N>;
-
-// Loops over the smallest order are written out, so that all its elements are registers or lie at known places; written
-// out for larger ones they would outgrow the processor's instruction cache.
 template <class N>
-inline constexpr bool isWrittenOut = false;
-template <>
-inline constexpr bool isWrittenOut<FixedOrder<3>> = true;
+inline constexpr bool isWrittenOut = !std::is_same_v<N, int32>;
 
 template <class N, class Body>
 ZEPM_INLINE void ascend(N, int32 from, int32 to, Body body)

@@ -7,7 +7,7 @@
 namespace zepm
 {
 
-inline constexpr int32 smallestGroupOrder = 3, largestGroupOrder = 6;
+inline constexpr int32 smallestGroupOrder = 3, largestGroupOrder = 12;
 
 // Where the elements of an operand's objects lie: element ij of object k at element[ij] + object(k), whatever the
 // layout. One of the two is an address, the other a distance.
