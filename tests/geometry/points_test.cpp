@@ -6,6 +6,7 @@
 
 #include <cfloat>
 #include <cmath>
+#include <cstdio>
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
@@ -93,12 +94,17 @@ struct Strides
 class Points : public testing::TestWithParam<const Row*>
 {
 protected:
+    // What a touch of unreadable memory is reported with.
+    static inline std::string running;
+    static void reportFault() { std::fprintf(stderr, "memory outside the operands: %s\n", running.c_str()); }
+
     const Row& function = *GetParam();
     Matrices matrices;
     const int32 srcSize = 4 * function.in, dstSize = 4 * function.out;
 
     Points()
     {
+        check::onFault(reportFault);
         for (auto& m : matrices.m)
             for (float32& x : m) x = between(-1, 1);
     }
@@ -165,6 +171,10 @@ TEST_P(Points, AsOneAfterTheOther)
                         std::memset(results.begin(), 0x5a, 1 << 13);
                         std::vector<char> expected(results.begin(), results.end());
                         walk(src + from.first, expected.data() + (dst - results.begin()) + to.first, stride, count);
+                        running = std::string(function.name) + ", level " + std::to_string(level) + ", strides " +
+                                  std::to_string(stride.src) + ' ' + std::to_string(stride.dst) + ", count " +
+                                  std::to_string(count) + ", " + std::to_string(gap) + " bytes " +
+                                  (atEnd ? "before" : "behind") + " the page";
                         // Under the address sanitizer the gaps between the points are out of bounds as well.
                         auto forEachGap = [&](auto visit) {
                             for (int k = 0; k < count - 1; ++k)
@@ -177,9 +187,7 @@ TEST_P(Points, AsOneAfterTheOther)
                             function.array(matrices, src + from.first, stride.src, dst + to.first, stride.dst, count);
                         forEachGap(check::allow);
                         ASSERT_EQ(status, stsOk);
-                        ASSERT_EQ(std::memcmp(results.begin(), expected.data(), expected.size()), 0)
-                            << "level " << level << ", strides " << stride.src << ' ' << stride.dst << ", count "
-                            << count << ", " << gap << " bytes " << (atEnd ? "before" : "behind") << " the page";
+                        ASSERT_EQ(std::memcmp(results.begin(), expected.data(), expected.size()), 0) << running;
                     }
     }
 }
