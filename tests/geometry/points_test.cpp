@@ -380,3 +380,33 @@ TEST(Viewport, ArraysGoThroughTheProduct)
         ASSERT_EQ(d[2], zMin + (zMax - zMin) * q[2]);
     }
 }
+
+// ---- The driver of the homogeneous transform ------------------------------------------------------------------------
+
+// A point that cannot be divided, wherever its share begins or ends: it alone is marked, the others are computed, and
+// the status is the same for any number of threads.
+TEST(Homogeneous, FailuresInAnyShare)
+{
+    constexpr int count = 1001;
+    const int32 leastWork = ownGetMinParallelWork(), threadsBefore = ownGetNumThreads();
+    float32 m[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 1, 0, 0, 0}; // w is x
+    std::vector<float32> points(3 * count), d(3 * count);
+    ASSERT_EQ(zepSetMinParallelWork(0), stsOk);
+    for (const int32 threads : {1, 2, 3, 5})
+        for (const int failing : {-1, 0, 1, 333, 500, 501, 502, 667, 999, 1000})
+        {
+            ASSERT_EQ(zepSetNumThreads(threads), stsOk);
+            for (float32& x : points) x = between(0.5f, 2);
+            if (failing >= 0) points[static_cast<size_t>(3 * failing)] = 0;
+            ASSERT_EQ(zepmAffineTransform3DH_mva_32f(m, 16, 4, points.data(), 12, 4, d.data(), 12, 4, count),
+                      failing >= 0 ? stsDivByZeroErr : stsOk)
+                << threads << " threads, point " << failing;
+            for (size_t i = 0; i < d.size(); ++i)
+            {
+                const float32 w = points[i - i % 3];
+                ASSERT_EQ(d[i], w > 0 ? 1 / w * points[i] : FLT_MAX) << threads << " threads, element " << i;
+            }
+        }
+    zepSetMinParallelWork(leastWork);
+    zepSetNumThreads(threadsBefore);
+}
