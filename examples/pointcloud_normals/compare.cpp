@@ -50,7 +50,8 @@ std::optional<double> numpyTime(const std::string& script, const std::vector<flo
         .write(reinterpret_cast<const char*>(matrices.data()),
                static_cast<std::streamsize>(matrices.size() * sizeof(float)));
     double nanoseconds = 0;
-    const std::string command = "python3 '" + script + "' " + path + " 2>/dev/null";
+    // The Python that Debian's NumPy belongs to.
+    const std::string command = "/usr/bin/python3 '" + script + "' " + path + " 2>/dev/null";
     FILE* const answer = popen(command.c_str(), "r");
     const bool found = answer && std::fscanf(answer, "%lf", &nanoseconds) == 1;
     if (answer) pclose(answer);

@@ -7,6 +7,30 @@ namespace
 
 constexpr int sz = sizeof(float);
 
+Status solveArray(const float* matrices, EigenSystems& systems, size_t first, int count)
+{
+    float scratch[9];
+    return zepmEigenValuesVectorsSym_ma_32f(matrices + 9 * first, 9 * sz, 3 * sz, sz, scratch, &systems.vectors[9 * first],
+                                            9 * sz, 3 * sz, sz, &systems.values[3 * first], 3, count);
+}
+
+// By halves down to the objects that fail.
+int solveHalves(std::vector<float>& matrices, EigenSystems& systems, size_t first, int count)
+{
+    Status status = solveArray(matrices.data(), systems, first, count);
+    if (status == stsOk) return 0;
+    if (count > 1)
+        return solveHalves(matrices, systems, first, count / 2) +
+               solveHalves(matrices, systems, first + static_cast<size_t>(count / 2), count - count / 2);
+    for (int attempt = 0; attempt < 3 && status == stsEigenFailErr; ++attempt)
+    {
+        for (size_t n = 9 * first; n < 9 * (first + 1); ++n) matrices[n] *= 1.25f;
+        status = solveArray(matrices.data(), systems, first, 1);
+    }
+    require(status, "zepmEigenValuesVectorsSym_ma_32f");
+    return 1;
+}
+
 } // namespace
 
 void require(Status status, const char* call)
@@ -64,15 +88,12 @@ std::vector<float> covariances(const Points& points, const std::vector<int>& nei
     return matrices;
 }
 
-void solve(const std::vector<float>& matrices, EigenSystems& systems)
+int solve(std::vector<float>& matrices, EigenSystems& systems)
 {
     const size_t count = matrices.size() / 9;
     systems.values.resize(3 * count);
     systems.vectors.resize(9 * count);
-    float scratch[9];
-    require(zepmEigenValuesVectorsSym_ma_32f(matrices.data(), 9 * sz, 3 * sz, sz, scratch, systems.vectors.data(),
-                                             9 * sz, 3 * sz, sz, systems.values.data(), 3, static_cast<int32>(count)),
-            "zepmEigenValuesVectorsSym_ma_32f");
+    return solveHalves(matrices, systems, 0, static_cast<int>(count));
 }
 
 std::vector<float> normalsOf(const EigenSystems& systems, const Points& points, const float (&eye)[3])

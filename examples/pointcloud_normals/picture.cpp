@@ -15,7 +15,6 @@ namespace
 
 constexpr int panelWidth = 640, panelHeight = 560, chartWidth = 400, captionHeight = 44;
 constexpr int pictureWidth = 2 * panelWidth + chartWidth, pictureHeight = panelHeight + captionHeight;
-constexpr float fieldOfView = 0.7f;
 
 struct Colour
 {
@@ -38,6 +37,7 @@ public:
         for (int y = std::max(y0 - radius, 0); y <= std::min(y0 + radius, panelHeight - 1); ++y)
             for (int x = std::max(x0 - radius, 0); x <= std::min(x0 + radius, panelWidth - 1); ++x)
             {
+                if ((x - x0) * (x - x0) + (y - y0) * (y - y0) > radius * radius + 1) continue;
                 const size_t at = static_cast<size_t>(y) * panelWidth + static_cast<size_t>(x);
                 if (p[2] >= depth[at]) continue;
                 depth[at] = p[2];
@@ -61,27 +61,39 @@ std::vector<float> projected(const Points& points, const View& view)
 {
     float at[3];
     for (int a = 0; a < 3; ++a) at[a] = view.eye[a] + view.forward[a];
-    float far = 0;
+    // What the points fill of the plane at distance 1, and how far they reach.
+    float nearest = std::numeric_limits<float>::max(), farthest = 0, left = 0, right = 0, bottom = 0, top = 0;
     for (int n = 0; n < points.count(); ++n)
     {
-        float distance = 0;
-        for (int a = 0; a < 3; ++a) distance += view.forward[a] * (points.at(n)[a] - view.eye[a]);
-        far = std::max(far, distance);
+        float depth = 0, x = 0, y = 0;
+        for (int a = 0; a < 3; ++a)
+        {
+            const float d = points.at(n)[a] - view.eye[a];
+            depth += view.forward[a] * d, x += view.right[a] * d, y += view.up[a] * d;
+        }
+        nearest = std::min(nearest, depth), farthest = std::max(farthest, depth);
+        left = std::min(left, x / depth), right = std::max(right, x / depth);
+        bottom = std::min(bottom, y / depth), top = std::max(top, y / depth);
     }
+    // A frame around it, of the panel's proportions.
+    constexpr float aspect = static_cast<float>(panelWidth) / panelHeight;
+    const float height = 1.06f * std::max({top - bottom, (right - left) / aspect, 1e-6f});
+    const float near = 0.9f * nearest, x = (left + right) / 2, y = (bottom + top) / 2;
     float world[16], camera[16], perspective[16];
     std::vector<float> screen(points.xyz.size());
     require(zepmIdentity_m4_32f(world), "zepmIdentity_m4_32f");
     require(zepmLookAtRH_m4_32f(view.eye, at, view.up, camera), "zepmLookAtRH_m4_32f");
-    require(zepmPerspectiveFovRH_m4_32f(fieldOfView, static_cast<float>(panelWidth) / panelHeight, 0.02f * far,
-                                        1.01f * far, perspective),
-            "zepmPerspectiveFovRH_m4_32f");
+    require(zepmPerspectiveOffCenterRH_m4_32f((x - aspect * height / 2) * near, (x + aspect * height / 2) * near,
+                                              (y - height / 2) * near, (y + height / 2) * near, near, 1.01f * farthest,
+                                              perspective),
+            "zepmPerspectiveOffCenterRH_m4_32f");
     require(zepmProject_m4v3a_32f(perspective, camera, world, points.xyz.data(), 12, panelWidth, panelHeight, 0, 1,
                                   screen.data(), 12, points.count()),
             "zepmProject_m4v3a_32f");
     return screen;
 }
 
-// A warm light from behind the viewer's left shoulder, a cold one from the right.
+// A warm light from behind the viewer's right shoulder, a cold one from the left.
 Colour shade(const float* normal, const View& view)
 {
     auto lit = [&](float right, float up, float back) {
@@ -90,7 +102,7 @@ Colour shade(const float* normal, const View& view)
             sum += normal[a] * (right * view.right[a] + up * view.up[a] - back * view.forward[a]);
         return static_cast<double>(std::max(0.f, sum / std::sqrt(right * right + up * up + back * back)));
     };
-    const double key = lit(-0.7f, 0.8f, 0.5f), fill = lit(0.9f, 0.1f, 0.4f);
+    const double key = lit(0.7f, 0.6f, 0.5f), fill = lit(-0.9f, 0.3f, 0.4f);
     return {0.08 + 0.85 * key + 0.16 * fill, 0.08 + 0.76 * key + 0.24 * fill, 0.10 + 0.60 * key + 0.42 * fill};
 }
 

@@ -55,7 +55,7 @@ void takePoint(const Lines& lines, const std::string& line, const int (&columns)
             if (columns[n] != column) continue;
             const auto [last, error] = std::from_chars(word, p, point[n]);
             if (error != std::errc() || last != p || !std::isfinite(point[n]))
-                lines.fail("\"" + std::string(word, p) + "\" is not a coordinate");
+                lines.fail(std::string("\"").append(word, p).append("\" is not a coordinate"));
             ++found;
         }
         ++column;
