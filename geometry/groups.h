@@ -46,7 +46,7 @@ ZEPM_INLINE void transposeGroups(Lanes<N> (&r)[4])
 }
 
 template <int N>
-ZEPM_INLINE Lanes<N> joined(Lanes<N / 2> low, Lanes<N / 2> high)
+ZEPM_INLINE Lanes<N> joined([[maybe_unused]] Lanes<N / 2> low, [[maybe_unused]] Lanes<N / 2> high)
 {
 #if defined(__AVX512F__)
     if constexpr (N == 16) return _mm512_insertf32x8(_mm512_castps256_ps512(low), high, 1);
@@ -57,7 +57,7 @@ ZEPM_INLINE Lanes<N> joined(Lanes<N / 2> low, Lanes<N / 2> high)
 }
 
 template <int N, int Half>
-ZEPM_INLINE Lanes<N / 2> halfOf(Lanes<N> x)
+ZEPM_INLINE Lanes<N / 2> halfOf([[maybe_unused]] Lanes<N> x)
 {
 #if defined(__AVX512F__)
     if constexpr (N == 16) return _mm512_extractf32x8_ps(x, Half);

@@ -1,6 +1,4 @@
 // zepmLookAt, zepmOrtho, zepmPerspective of m4, left- and right-handed
-//
-// A difference that stands negated, 0 - (zf - zn), is not zn - zf: a difference of zero has another sign.
 #include "geometry/fixed.h"
 #include "zepm_geometry.h"
 

@@ -200,9 +200,9 @@ TEST_P(ArrayLane, FarApart)
             Case chosen{function.sizesToTry[3], 4, strides, {}};
             // Few objects with work enough for the driver.
             if (strides != Strides::FarElements && function.hasDriver())
-                while (function.estimate(chosen.sizes, chosen.count) <
-                           std::max(function.limits.packed, function.limits.general) &&
-                       chosen.sizes[0] < 2000)
+                while (!chosen.sizes.empty() && chosen.sizes[0] < 2000 &&
+                       function.estimate(chosen.sizes, chosen.count) <
+                           std::max(function.limits.packed, function.limits.general))
                     for (int& size : chosen.sizes) ++size;
             if (!takes(chosen)) continue;
             trial.prepare(chosen);

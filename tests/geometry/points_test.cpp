@@ -6,6 +6,7 @@
 
 #include <cfloat>
 #include <cmath>
+#include <cstdio>
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
@@ -93,12 +94,17 @@ struct Strides
 class Points : public testing::TestWithParam<const Row*>
 {
 protected:
+    // What a touch of unreadable memory is reported with.
+    static inline std::string running;
+    static void reportFault() { std::fprintf(stderr, "memory outside the operands: %s\n", running.c_str()); }
+
     const Row& function = *GetParam();
     Matrices matrices;
     const int32 srcSize = 4 * function.in, dstSize = 4 * function.out;
 
     Points()
     {
+        check::onFault(reportFault);
         for (auto& m : matrices.m)
             for (float32& x : m) x = between(-1, 1);
     }
@@ -165,6 +171,10 @@ TEST_P(Points, AsOneAfterTheOther)
                         std::memset(results.begin(), 0x5a, 1 << 13);
                         std::vector<char> expected(results.begin(), results.end());
                         walk(src + from.first, expected.data() + (dst - results.begin()) + to.first, stride, count);
+                        running = std::string(function.name) + ", level " + std::to_string(level) + ", strides " +
+                                  std::to_string(stride.src) + ' ' + std::to_string(stride.dst) + ", count " +
+                                  std::to_string(count) + ", " + std::to_string(gap) + " bytes " +
+                                  (atEnd ? "before" : "behind") + " the page";
                         // Under the address sanitizer the gaps between the points are out of bounds as well.
                         auto forEachGap = [&](auto visit) {
                             for (int k = 0; k < count - 1; ++k)
@@ -177,9 +187,7 @@ TEST_P(Points, AsOneAfterTheOther)
                             function.array(matrices, src + from.first, stride.src, dst + to.first, stride.dst, count);
                         forEachGap(check::allow);
                         ASSERT_EQ(status, stsOk);
-                        ASSERT_EQ(std::memcmp(results.begin(), expected.data(), expected.size()), 0)
-                            << "level " << level << ", strides " << stride.src << ' ' << stride.dst << ", count "
-                            << count << ", " << gap << " bytes " << (atEnd ? "before" : "behind") << " the page";
+                        ASSERT_EQ(std::memcmp(results.begin(), expected.data(), expected.size()), 0) << running;
                     }
     }
 }
@@ -371,4 +379,34 @@ TEST(Viewport, ArraysGoThroughTheProduct)
         ASSERT_EQ(d[1], height * 0.5f + (0 - height * 0.5f) * q[1]);
         ASSERT_EQ(d[2], zMin + (zMax - zMin) * q[2]);
     }
+}
+
+// ---- The driver of the homogeneous transform ------------------------------------------------------------------------
+
+// A point that cannot be divided, wherever its share begins or ends: it alone is marked, the others are computed, and
+// the status is the same for any number of threads.
+TEST(Homogeneous, FailuresInAnyShare)
+{
+    constexpr int count = 1001;
+    const int32 leastWork = ownGetMinParallelWork(), threadsBefore = ownGetNumThreads();
+    float32 m[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 1, 0, 0, 0}; // w is x
+    std::vector<float32> points(3 * count), d(3 * count);
+    ASSERT_EQ(zepSetMinParallelWork(0), stsOk);
+    for (const int32 threads : {1, 2, 3, 5})
+        for (const int failing : {-1, 0, 1, 333, 500, 501, 502, 667, 999, 1000})
+        {
+            ASSERT_EQ(zepSetNumThreads(threads), stsOk);
+            for (float32& x : points) x = between(0.5f, 2);
+            if (failing >= 0) points[static_cast<size_t>(3 * failing)] = 0;
+            ASSERT_EQ(zepmAffineTransform3DH_mva_32f(m, 16, 4, points.data(), 12, 4, d.data(), 12, 4, count),
+                      failing >= 0 ? stsDivByZeroErr : stsOk)
+                << threads << " threads, point " << failing;
+            for (size_t i = 0; i < d.size(); ++i)
+            {
+                const float32 w = points[i - i % 3];
+                ASSERT_EQ(d[i], w > 0 ? 1 / w * points[i] : FLT_MAX) << threads << " threads, element " << i;
+            }
+        }
+    zepSetMinParallelWork(leastWork);
+    zepSetNumThreads(threadsBefore);
 }
