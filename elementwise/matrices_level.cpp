@@ -10,6 +10,13 @@ namespace zepm::ZEPM_LEVEL
 namespace
 {
 
+// What the second source of an operation may be, besides a matrix as it is stored. A source that alone is transposed
+// stands first, as the minuend or not.
+template <class Op>
+inline constexpr bool takesConstant = std::is_same_v<Op, Times>; // and nothing else
+template <class Op>
+inline constexpr bool takesTransposed = !takesConstant<Op> && !std::is_same_v<Op, MinusFrom>;
+
 // ---- Rows -----------------------------------------------------------------------------------------------------------
 
 // An operand object by object; a fixed one is never a list.
@@ -41,38 +48,59 @@ ZEPM_INLINE bool ofRows(const MatrixCall& c, F f)
 // The rows of one object as if each were an object.
 ZEPM_INLINE RowOperand rowByRow(const RowOperand& operand, const char* p) { return {p, operand.rowStride, false, 0}; }
 
-// Row i of the objects from k on.
-ZEPM_INLINE RowOperand rowOfEach(const RowOperand& operand, bool isList, ptrdiff_t k, ptrdiff_t i)
+// Gapped rows of few elements, object by object: in rowOf b is a pointer, or the constant.
+template <int Width, class T, class Op>
+[[gnu::noinline]] void shortRowsOfEach(Op op, const MatrixCall& c)
 {
-    const ptrdiff_t toRow = i * operand.rowStride;
-    if (operand.isFixed) return {operand.p + toRow, 0, true, 0};
-    if (isList) return {operand.p + k * static_cast<ptrdiff_t>(sizeof(char*)), operand.stride + toRow, false, 0};
-    return {operand.p + k * operand.stride + toRow, operand.stride, false, 0};
+    Objects a(c, c.a), b(c, c.b), d(c, c.d);
+    const ptrdiff_t count = c.count, height = c.height;
+    const ptrdiff_t strideA = c.a.rowStride, strideB = c.b.rowStride, strideD = c.d.rowStride;
+    T constant{};
+    if constexpr (takesConstant<Op>) constant = load<T>(c.b.p);
+    for (ptrdiff_t k = 0; k < count; ++k)
+    {
+        const char *rowA = a.at(), *rowB = b.at();
+        char* rowD = const_cast<char*>(d.at());
+        auto nextRow = [&]() __attribute__((always_inline))
+        {
+            if constexpr (takesConstant<Op>)
+                rowOf<T, Width>(op, rowA, constant, rowD);
+            else
+                rowOf<T, Width>(op, rowA, rowB, rowD);
+            rowA += strideA, rowB += strideB, rowD += strideD;
+        };
+        if (height == Width)
+            forEachIndex<Width>([&]<int>() __attribute__((always_inline)) { nextRow(); });
+        else
+            for (ptrdiff_t i = 0; i < height; ++i) nextRow();
+        a.next(), b.next(), d.next();
+    }
 }
 
-// Gapped rows: either all rows of one object after the other, or row i of as many objects as stay in the first cache
-// until their next row.
+// Gapped rows of many elements: the rows of each object by themselves.
 template <class Op, class T>
-[[gnu::noinline]] void combineGapped(const MatrixCall& c)
+[[gnu::noinline]] void longRowsOfEach(const MatrixCall& c)
 {
-    constexpr ptrdiff_t blockBytes = 8192;
-    const ptrdiff_t block = blockBytes / (c.width * c.height * sz<T>);
-    if (block < c.height)
+    Objects a(c, c.a), b(c, c.b), d(c, c.d);
+    for (ptrdiff_t k = 0; k < c.count; ++k)
     {
-        Objects a(c, c.a), b(c, c.b), d(c, c.d);
-        for (ptrdiff_t k = 0; k < c.count; ++k)
-        {
-            ZEPM_LEVEL::combineRows<Op, T>({rowByRow(c.a, a.at()), c.isConstant ? c.b : rowByRow(c.b, b.at()),
-                                            rowByRow(c.d, d.at()), c.isConstant, false, c.width, c.height});
-            a.next(), b.next(), d.next();
-        }
-        return;
+        ZEPM_LEVEL::combineRows<Op, T>({rowByRow(c.a, a.at()), c.isConstant ? c.b : rowByRow(c.b, b.at()),
+                                        rowByRow(c.d, d.at()), c.isConstant, false, c.width, c.height});
+        a.next(), b.next(), d.next();
     }
-    for (ptrdiff_t k = 0; k < c.count; k += block)
-        for (ptrdiff_t i = 0; i < c.height; ++i)
-            ZEPM_LEVEL::combineRows<Op, T>({rowOfEach(c.a, c.isList, k, i), rowOfEach(c.b, c.isList, k, i),
-                                            rowOfEach(c.d, c.isList, k, i), c.isConstant, c.isList, c.width,
-                                            c.count - k < block ? c.count - k : block});
+}
+
+template <class Op, class T>
+ZEPM_INLINE void combineGapped(const MatrixCall& c)
+{
+    switch (c.width)
+    {
+    case 3: return shortRowsOfEach<3, T>(Op{}, c);
+    case 4: return shortRowsOfEach<4, T>(Op{}, c);
+    case 5: return shortRowsOfEach<5, T>(Op{}, c);
+    case 6: return shortRowsOfEach<6, T>(Op{}, c);
+    default: return longRowsOfEach<Op, T>(c);
+    }
 }
 
 template <class Op, class T>
@@ -107,15 +135,26 @@ enum class Second
     Constant
 };
 
-// One object's operands, the first source transposed.
-template <Second second, class T, class Op>
+// One object's operands, the first source transposed. RowSize is the distance between all rows, or 0 where each operand
+// has its own.
+template <Second second, class T, class Op, ptrdiff_t RowSize>
 struct Tiles
 {
     Op op;
     const char *a, *b;
     char* d;
-    ptrdiff_t aRow, bRow, dRow;
+    ptrdiff_t strideA, strideB, strideD;
     T constant;
+
+    ZEPM_INLINE const char* atA(ptrdiff_t i, ptrdiff_t j) const
+    {
+        return a + i * (RowSize ? RowSize : strideA) + j * sz<T>;
+    }
+    ZEPM_INLINE const char* atB(ptrdiff_t i, ptrdiff_t j) const
+    {
+        return b + i * (RowSize ? RowSize : strideB) + j * sz<T>;
+    }
+    ZEPM_INLINE char* atD(ptrdiff_t i, ptrdiff_t j) const { return d + i * (RowSize ? RowSize : strideD) + j * sz<T>; }
 
     // Rows x Columns results at (i, j), through a tile of N x N elements.
     template <int N, int Rows, int Columns>
@@ -123,16 +162,17 @@ struct Tiles
     {
         Vec<T, N> x[N] = {};
         forEachIndex<Columns>([&]<int C>() __attribute__((always_inline)) {
-            x[C] = loadPart<T, N, Rows>(a + (j + C) * aRow + i * sz<T>);
-            if constexpr (second == Second::Transposed)
-                x[C] = op(x[C], loadPart<T, N, Rows>(b + (j + C) * bRow + i * sz<T>));
+            x[C] = loadPart<T, N, Rows>(atA(j + C, i));
+            if constexpr (second == Second::Transposed) x[C] = op(x[C], loadPart<T, N, Rows>(atB(j + C, i)));
             if constexpr (second == Second::Constant) x[C] = op(x[C], broadcast<T, N>(constant));
         });
         transpose<T, N>(x);
         forEachIndex<Rows>([&]<int R>() __attribute__((always_inline)) {
-            if constexpr (second == Second::Normal)
-                x[R] = op(x[R], loadPart<T, N, Columns>(b + (i + R) * bRow + j * sz<T>));
-            storePart<T, N, Columns>(d + (i + R) * dRow + j * sz<T>, x[R]);
+            pieces<T, Columns, N>([&]<int Count, int J>() __attribute__((always_inline)) {
+                Vec<T, Count> y = lanesOf<T, N, J, Count>(x[R]);
+                if constexpr (second == Second::Normal) y = op(y, loadVec<T, Count>(atB(i + R, j + J)));
+                storeVec<T, Count>(atD(i + R, j + J), y);
+            });
         });
     }
 
@@ -171,22 +211,30 @@ struct Tiles
     }
 };
 
-// Registers of four elements serve orders 3 to 6 best.
-template <class T>
-inline constexpr int smallTile = lanes<T> < 4 ? lanes<T> : 4;
+// The tiles of orders 3 to 6: of four elements, but pairs of doubles where a third would take a load of its own.
+template <class T, int Order>
+constexpr int tileSize()
+{
+    const int best = Order == 3 && sizeof(T) == 8 ? 2 : 4;
+    return best < lanes<T> ? best : lanes<T>;
+}
 
-template <int Order, Second second, class T, class Op>
+template <int Order, Second second, ptrdiff_t RowSize, class T, class Op>
 [[gnu::noinline]] void tilesOfEach(Op op, const MatrixCall& c)
 {
     Objects a(c, c.a), b(c, c.b), d(c, c.d);
-    Tiles<second, T, Op> object{op, nullptr, nullptr, nullptr, c.a.rowStride, c.b.rowStride, c.d.rowStride, T{}};
-    if constexpr (second == Second::Constant) object.constant = load<T>(c.b.p);
+    T constant{};
+    if constexpr (second == Second::Constant) constant = load<T>(c.b.p);
     const ptrdiff_t count = c.count, width = c.width, height = c.height;
+    ptrdiff_t strideA = c.a.rowStride, strideB = c.b.rowStride, strideD = c.d.rowStride;
     for (ptrdiff_t k = 0; k < count; ++k)
     {
-        object.a = a.at(), object.b = b.at(), object.d = const_cast<char*>(d.at());
+        // Not to be known ahead of the loop: the distances of all rows would be, and fill the stack.
+        if constexpr (RowSize == 0) asm("" : "+rm"(strideA), "+rm"(strideB), "+rm"(strideD));
+        const Tiles<second, T, Op, RowSize> object{op,      a.at(),  b.at(),  const_cast<char*>(d.at()),
+                                                   strideA, strideB, strideD, constant};
         if constexpr (Order > 0)
-            object.template square<Order, smallTile<T>>();
+            object.template square<Order, tileSize<T, Order>()>();
         else
             object.template region<lanes<T>>(0, height, 0, width);
         a.next(), b.next(), d.next();
@@ -251,12 +299,24 @@ template <int Order, Second second, class T, class Op>
 template <int Order, Second second, class T, class Op>
 ZEPM_INLINE void squareOfEach(Op op, const MatrixCall& c)
 {
-    if constexpr (Whole<T, Order>::fits)
+    auto hasRowsOf = [&](ptrdiff_t size) __attribute__((always_inline))
     {
-        if (!c.isList && ofRows(c, [](const RowOperand& x) { return x.rowStride == Order * sz<T>; }))
-            return wholeOfEach<Order, second, T>(op, c);
+        return ofRows(c, [size](const RowOperand& x) { return x.rowStride == size; });
+    };
+    constexpr ptrdiff_t dense = Order * sz<T>, records = 4 * sz<T>;
+    if (hasRowsOf(dense))
+    {
+        if constexpr (Whole<T, Order>::fits)
+        {
+            if (!c.isList) return wholeOfEach<Order, second, T>(op, c);
+        }
+        return tilesOfEach<Order, second, dense, T>(op, c);
     }
-    tilesOfEach<Order, second, T>(op, c);
+    if constexpr (Order == 3)
+    {
+        if (hasRowsOf(records)) return tilesOfEach<Order, second, records, T>(op, c);
+    }
+    tilesOfEach<Order, second, 0, T>(op, c);
 }
 
 template <Second second, class T, class Op>
@@ -268,7 +328,7 @@ ZEPM_INLINE void combineTransposed(Op op, const MatrixCall& c)
     case 4: return squareOfEach<4, second, T>(op, c);
     case 5: return squareOfEach<5, second, T>(op, c);
     case 6: return squareOfEach<6, second, T>(op, c);
-    default: return tilesOfEach<0, second, T>(op, c);
+    default: return tilesOfEach<0, second, 0, T>(op, c);
     }
 }
 
@@ -297,13 +357,6 @@ template <class Op, class T>
                                            {{c.a, constant, to, true, false, c.width, 1}, c.height, true, false});
     combineAsRows<Op, T>({{to, c.b, c.d, false, c.isList, c.width, c.count}, c.height, false, false});
 }
-
-// Which sources an operation may have besides a transposed first one. A single transposed source stands first, and is
-// the minuend or not.
-template <class Op>
-inline constexpr bool takesConstant = std::is_same_v<Op, Times>;
-template <class Op>
-inline constexpr bool takesTransposed = !takesConstant<Op> && !std::is_same_v<Op, MinusFrom>;
 
 } // namespace
 

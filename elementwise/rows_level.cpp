@@ -165,6 +165,7 @@ struct Spread
 template <class T, int Length, bool Streams = false, class Op, class A, class B, class D>
 ZEPM_INLINE void rows(Op op, A a, B b, D d, ptrdiff_t width, ptrdiff_t count)
 {
+    [[maybe_unused]] const bool isWholeRegisters = width % lanes<T> == 0 && width < longRow<T>;
     for (ptrdiff_t k = 0; k < count; ++k)
     {
         a.enter();
@@ -178,6 +179,8 @@ ZEPM_INLINE void rows(Op op, A a, B b, D d, ptrdiff_t width, ptrdiff_t count)
                 else
                     storeVec<T, N>(to + J * sz<T>, x);
             });
+        else if (isWholeRegisters)
+            for (ptrdiff_t j = 0; j < width; j += lanes<T>) piece<T, lanes<T>>(op, a.whole(), b.whole(), to, j);
         else
             row<T>(op, a.whole(), b.whole(), to, width);
         a.next();
@@ -208,8 +211,6 @@ template <class T, int Length, class Lying, class Op>
         rows<T, Length>(op, fixedRow<T, Length>(c.a), constants, d, c.width, c.count);
     else if (c.isConstant)
         rows<T, Length>(op, a, constants, d, c.width, c.count);
-    else if (c.a.isFixed)
-        rows<T, Length>(op, fixedRow<T, Length>(c.a), b, d, c.width, c.count);
     else if (c.b.isFixed)
         rows<T, Length>(op, a, fixedRow<T, Length>(c.b), d, c.width, c.count);
     else
@@ -244,12 +245,9 @@ template <class T, int Length, bool Streams, class Op>
 {
     constexpr int size = groupSize<T, Length, false>();
     constexpr ptrdiff_t groupBytes = size * Length * sz<T>;
-    const Elements<T, Stepping> a{Stepping({c.a.p, groupBytes, false, 0})}, b{Stepping({c.b.p, groupBytes, false, 0})};
+    const Elements<T, Stepping> a{Stepping({c.a.p, groupBytes, false, 0})};
     const Stepping d({c.d.p, groupBytes, false, 0});
-    if (c.a.isFixed)
-        rows<T, Length * size, Streams>(op, Held<T, Length, size>(c.a.p), b, d, 0, count);
-    else
-        rows<T, Length * size, Streams>(op, a, Held<T, Length, size>(c.b.p), d, 0, count);
+    rows<T, Length * size, Streams>(op, a, Held<T, Length, size>(c.b.p), d, 0, count);
 }
 
 // ---- The call -------------------------------------------------------------------------------------------------------
@@ -373,6 +371,9 @@ template <class Op, class T>
 void combineRows(const RowCall& c)
 {
     if (isOneRow<T>(c)) return oneRow<T>(Op{}, c);
+    // A fixed operand stands second; what is first with constants has code of its own.
+    if (c.a.isFixed && !c.isConstant)
+        return ZEPM_LEVEL::combineRows<decltype(flipped(Op{})), T>({c.b, c.a, c.d, false, c.isList, c.width, c.count});
     switch (c.width)
     {
     case 3: return rowsInOrder<T, 3>(Op{}, c);

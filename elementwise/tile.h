@@ -79,7 +79,9 @@ ZEPM_INLINE Vec<T, N> loadPart(const char* p)
 template <class T, int N, int First, int Count>
 ZEPM_INLINE auto lanesOf(Vec<T, N> x)
 {
-    if constexpr (Count == 1)
+    if constexpr (Count == N)
+        return x;
+    else if constexpr (Count == 1)
         return x[First];
     else
         return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
@@ -87,22 +89,6 @@ ZEPM_INLINE auto lanesOf(Vec<T, N> x)
             return __builtin_shufflevector(x, x, (First + Lane)...);
         }
     (std::make_integer_sequence<int, Count>{});
-}
-
-// Stores the first Count elements of a vector of N and nothing behind them.
-template <class T, int N, int Count>
-ZEPM_INLINE void storePart(char* p, Vec<T, N> x)
-{
-    constexpr int half = N / 2;
-    if constexpr (Count == N)
-        storeVec<T, N>(p, x);
-    else if constexpr (Count <= half)
-        storePart<T, half, Count>(p, lanesOf<T, N, 0, half>(x));
-    else
-    {
-        storeVec<T, half>(p, lanesOf<T, N, 0, half>(x));
-        storePart<T, half, Count - half>(p + half * sizeof(T), lanesOf<T, N, half, half>(x));
-    }
 }
 
 // ---- Transposition --------------------------------------------------------------------------------------------------
