@@ -55,10 +55,10 @@ struct Systems
     static constexpr int sz = sizeof(T);
 
     int count = 0;
-    std::vector<T> a, b, factors, lapack;
+    std::vector<T> a, b, factors, lapack, lapackTransposed;
     std::vector<int32> index;
-    std::vector<lapack_int> pivots;
-    std::vector<Eigen::PartialPivLU<Matrix>> plu;
+    std::vector<lapack_int> pivots, pivotsTransposed;
+    std::vector<Eigen::PartialPivLU<Matrix>> plu, pluTransposed;
     std::vector<Matrix> inverse;
 
     static Systems& of(int count)
@@ -110,9 +110,12 @@ private:
         b.resize(objects * N);
         factors.resize(objects * size);
         lapack.resize(objects * size);
+        lapackTransposed.resize(objects * size);
         index.resize(objects * N);
         pivots.resize(objects * N);
+        pivotsTransposed.resize(objects * N);
         plu.resize(objects);
+        pluTransposed.resize(objects);
         inverse.resize(objects);
         for (T& x : b) x = element();
         for (T& x : a) x = element();
@@ -192,16 +195,15 @@ public:
         problem.add(
             "lapack_getrf", [*this] { return All::of(n).getrf(n); }, eachOf(n, [to = result](All& all, int k) {
                 using Map = typename All::MatrixMap;
-                Map lu(all.lapack.data() + k * All::size), product(to + k * All::size);
-                product = typename All::Matrix(lu.template triangularView<Eigen::UnitLower>()) *
-                          typename All::Matrix(lu.template triangularView<Eigen::Upper>());
+                Map lu(all.lapack.data() + k * All::size), matrix(to + k * All::size);
+                matrix = typename All::Matrix(lu.template triangularView<Eigen::UnitLower>()) *
+                         typename All::Matrix(lu.template triangularView<Eigen::Upper>());
                 for (int i = N - 1; i >= 0; --i)
-                    product.row(i).swap(product.row(all.pivots[static_cast<size_t>(k * N + i)] - 1));
+                    matrix.row(i).swap(matrix.row(all.pivots[static_cast<size_t>(k * N + i)] - 1));
             }));
     }
 
-    // The factors are those of the transposed matrices for Eigen and LAPACK, so their solutions are the peers' with the
-    // transposed factors: each contender is given the factors of the matrix as it is here.
+    // A^T is what Eigen and LAPACK see of the matrices: Eigen is given factors of A, LAPACK solves with those of A^T.
     void solve() const
     {
         const int count = n;
@@ -216,11 +218,12 @@ public:
             };
         };
         auto decompose = [=](All& all) {
-            for (int k = 0; k < count; ++k) all.plu[static_cast<size_t>(k)].compute(all.matrix(k).transpose());
+            for (int k = 0; k < count; ++k)
+                all.pluTransposed[static_cast<size_t>(k)].compute(all.matrix(k).transpose());
         };
         auto plu = prepared(decompose, [=](All& all) {
             for (int k = 0; k < count; ++k)
-                typename All::VectorMap(to + k * N) = all.plu[static_cast<size_t>(k)].solve(all.rhs(k));
+                typename All::VectorMap(to + k * N) = all.pluTransposed[static_cast<size_t>(k)].solve(all.rhs(k));
             return stsOk;
         });
         bench::Case<T> problem(name("LUBackSubst_mava"), result, static_cast<size_t>(n) * N, plu, tolerance);
@@ -254,7 +257,7 @@ public:
         using Columns = Eigen::Matrix<T, N, Eigen::Dynamic>;
         auto columns = [=](T* p) { return Eigen::Map<Columns>(p, N, count); };
         auto shared = prepared(decompose, [=](All& all) {
-            columns(to) = all.plu[0].solve(columns(all.b.data()));
+            columns(to) = all.pluTransposed[0].solve(columns(all.b.data()));
             return stsOk;
         });
         bench::Case<T> one(name("LUBackSubst_mva"), result, static_cast<size_t>(n) * N, shared, tolerance);
@@ -295,9 +298,9 @@ public:
             lapack_int info = 0;
             for (int k = 0; k < count; ++k)
             {
-                typename All::MatrixMap(all.lapack.data() + k * All::size) = all.matrix(k).transpose();
-                info |= Calls<T>::gesv(LAPACK_COL_MAJOR, N, 1, all.lapack.data() + k * All::size, N,
-                                       all.pivots.data() + k * N, to + k * N, N);
+                typename All::MatrixMap(all.lapackTransposed.data() + k * All::size) = all.matrix(k).transpose();
+                info |= Calls<T>::gesv(LAPACK_COL_MAJOR, N, 1, all.lapackTransposed.data() + k * All::size, N,
+                                       all.pivotsTransposed.data() + k * N, to + k * N, N);
             }
             return info;
         });

@@ -91,12 +91,9 @@ template <class T, int N, int W>
 template <class T, int N, int W, class Source>
 ZEPM_INLINE void read(Local<T, N, W>& m, const Group<Source, W>& source)
 {
+    readMatrix<T>(source, m.a);
     ZEPM_UNROLL
-    for (int32 i = 0; i < N; ++i)
-    {
-        source.template readRow<N>(sameRow<W>(i), m.a[i]);
-        m.row[i] = broadcast<IntOf<T>, W>(i);
-    }
+    for (int32 i = 0; i < N; ++i) m.row[i] = broadcast<IntOf<T>, W>(i);
 }
 
 template <class T, int N, int W>
@@ -138,17 +135,18 @@ template <class T, int N, int W, class Source, class Destination>
     Local<T, N, W> m;
     read(m, source);
     if (eliminate(m) < N) return false;
-    LaneRows<W> rows[N];
-    ZEPM_UNROLL
-    for (int p = 0; p < N; ++p)
+    pivots.template writeLanes<IntOf<T>>(m.row);
+    if constexpr (permutesRows)
     {
-        rows[p] = rowsOf(m, p);
-        destination.template writeRow<N>(rows[p], m.a[p]);
+        Vec<T, W> d[N][N];
+        putRows(m.a, m.row, d);
+        writeMatrix<T>(destination, d);
     }
-    if constexpr (sizeof(T) == sizeof(int32))
-        storeTransposed<int32, W, N>(pivots.p, m.row);
     else
-        pivots.write(rows);
+    {
+        ZEPM_UNROLL
+        for (int p = 0; p < N; ++p) destination.template writeRow<N>(rowsOf(m, p), m.a[p]);
+    }
     return true;
 }
 

@@ -171,6 +171,7 @@ template <class T, bool Contiguous, int W>
 struct Group<StridedObject<T, Contiguous>, W>
 {
     using Element = std::remove_const_t<T>;
+    static constexpr bool isTransposed = Contiguous && W > 1;
     Bytes<T> p[W];
     ptrdiff_t stride1, stride2;
 
@@ -201,7 +202,7 @@ struct Group<StridedObject<T, Contiguous>, W>
     template <int N>
     ZEPM_INLINE void readRow(const LaneRows<W>& rows, Vec<Element, W>* x) const
     {
-        if constexpr (Contiguous && W > 1)
+        if constexpr (isTransposed)
         {
             const char* at[W];
             ZEPM_UNROLL
@@ -220,7 +221,7 @@ struct Group<StridedObject<T, Contiguous>, W>
         char* at[W];
         ZEPM_UNROLL
         for (int n = 0; n < W; ++n) at[n] = p[n] + rows.row[n] * stride1;
-        if constexpr (Contiguous && W > 1)
+        if constexpr (isTransposed)
             storeTransposed<Element, W, N>(at, x);
         else
         {
@@ -246,6 +247,7 @@ template <class T, int W>
 struct Group<TableObject<T>, W>
 {
     using Element = std::remove_const_t<T>;
+    static constexpr bool isTransposed = false;
     T* const* pp;
     ptrdiff_t offset[W];
     ptrdiff_t width;
@@ -322,13 +324,35 @@ struct GroupPivots
             for (int i = 0; i < N; ++i) rows[i].row[n] = PivotObject<I>{reinterpret_cast<I*>(p[n])}.get(i);
         }
     }
-    ZEPM_INLINE void write(const LaneRows<W> (&rows)[N]) const
+    // By lane: lane n of row[i] is the pivot i of object n.
+    template <class Int>
+    ZEPM_INLINE void readLanes(Vec<Int, W> (&row)[N]) const
     {
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n)
+        if constexpr (sizeof(Int) == sizeof(int32))
+            loadTransposed<int32, W, N>(p, row);
+        else
+        {
+            LaneRows<W> rows[N];
+            read(rows);
+            ZEPM_UNROLL
+            for (int i = 0; i < N; ++i)
+                row[i] = eachLane<Int, W>([&](int n) __attribute__((always_inline)) { return rows[i].row[n]; });
+        }
+    }
+    template <class Int>
+    ZEPM_INLINE void writeLanes(const Vec<Int, W> (&row)[N]) const
+    {
+        if constexpr (sizeof(Int) == sizeof(int32))
+            storeTransposed<int32, W, N>(p, row);
+        else
         {
             ZEPM_UNROLL
-            for (int i = 0; i < N; ++i) PivotObject<I>{reinterpret_cast<I*>(p[n])}.set(i, rows[i].row[n]);
+            for (int n = 0; n < W; ++n)
+            {
+                ZEPM_UNROLL
+                for (int i = 0; i < N; ++i)
+                    PivotObject<I>{reinterpret_cast<I*>(p[n])}.set(i, static_cast<int32>(row[i][n]));
+            }
         }
     }
 };
@@ -340,6 +364,85 @@ ZEPM_INLINE LaneRows<W> sameRow(int32 row)
     ZEPM_UNROLL
     for (int n = 0; n < W; ++n) rows.row[n] = row;
     return rows;
+}
+
+// ---- Matrices by lane -----------------------------------------------------------------------------------------------
+
+// Rows without gaps are taken as one, where that saves pieces.
+template <int N, class AnyGroup>
+ZEPM_INLINE bool isOneRow(const AnyGroup& group)
+{
+    using T = typename AnyGroup::Element;
+    if constexpr (AnyGroup::isTransposed && N % pieceLength<T> != 0)
+        return group.stride1 == N * static_cast<ptrdiff_t>(sizeof(T));
+    else
+        return false;
+}
+
+template <class T, int N, class Object, int W>
+ZEPM_INLINE void readMatrix(const Group<Object, W>& group, Vec<T, W> (&x)[N][N])
+{
+    if constexpr (Group<Object, W>::isTransposed && N % pieceLength<T> != 0)
+    {
+        if (isOneRow<N>(group))
+        {
+            Vec<T, W> row[N * N];
+            loadTransposed<T, W, N * N>(group.p, row);
+            ZEPM_UNROLL
+            for (int e = 0; e < N * N; ++e) x[e / N][e % N] = row[e];
+            return;
+        }
+    }
+    ZEPM_UNROLL
+    for (int32 i = 0; i < N; ++i) group.template readRow<N>(sameRow<W>(i), x[i]);
+}
+template <class T, int N, class Object, int W>
+ZEPM_INLINE void writeMatrix(const Group<Object, W>& group, const Vec<T, W> (&x)[N][N])
+{
+    if constexpr (Group<Object, W>::isTransposed && N % pieceLength<T> != 0)
+    {
+        if (isOneRow<N>(group))
+        {
+            Vec<T, W> row[N * N];
+            ZEPM_UNROLL
+            for (int e = 0; e < N * N; ++e) row[e] = x[e / N][e % N];
+            storeTransposed<T, W, N * N>(group.p, row);
+            return;
+        }
+    }
+    ZEPM_UNROLL
+    for (int32 i = 0; i < N; ++i) group.template writeRow<N>(sameRow<W>(i), x[i]);
+}
+
+// Whether rows are brought to their places in registers: with an instruction that selects this beats an address for
+// each row of each lane.
+inline constexpr bool permutesRows = registerBytes > 16;
+
+// x(row) in each lane, row its own from 0 to N - 1.
+template <int N, class I, class F>
+ZEPM_INLINE auto picked(I row, F x)
+{
+    auto result = x(0);
+    ZEPM_UNROLL
+    for (int r = 1; r < N; ++r) result = row == r ? x(r) : result;
+    return result;
+}
+
+// y[row[i]] = x[i] in each lane; row is a permutation.
+template <int N, int Columns, class V, class I>
+ZEPM_INLINE void putRows(const V (&x)[N][Columns], const I (&row)[N], V (&y)[N][Columns])
+{
+    ZEPM_UNROLL
+    for (int r = 0; r < N; ++r)
+    {
+        ZEPM_UNROLL
+        for (int j = 0; j < Columns; ++j)
+        {
+            y[r][j] = x[0][j];
+            ZEPM_UNROLL
+            for (int i = 1; i < N; ++i) y[r][j] = row[i] == r ? x[i][j] : y[r][j];
+        }
+    }
 }
 
 } // namespace zepm::ZEPM_LEVEL

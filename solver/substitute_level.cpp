@@ -34,23 +34,50 @@ ZEPM_INLINE void solve(const V (&f)[N][N], V (&y)[N], Finish finish)
     }
 }
 
-// Systems with a matrix each.
+// Systems with a matrix each. False, with nothing written, if rows are to be permuted in registers and a pivot is none
+// of the N rows: what it then addresses is not there.
 template <class T, int N, int W, class Matrix, class Rhs, class Destination>
-[[gnu::noinline]] void solveGroup(const Group<Matrix, W>& matrix, const GroupPivots<const int32, N, W>& pivots,
+[[gnu::noinline]] bool solveGroup(const Group<Matrix, W>& matrix, const GroupPivots<const int32, N, W>& pivots,
                                   const Group<Rhs, W>& rhs, const Group<Destination, W>& destination)
 {
-    LaneRows<W> rows[N];
-    pivots.read(rows);
     Vec<T, W> f[N][N], y[N];
-    ZEPM_UNROLL
-    for (int i = 0; i < N; ++i)
+    if constexpr (permutesRows && W > 1)
     {
-        matrix.template readRow<N>(rows[i], f[i]);
-        y[i] = rhs.getAcross(rows[i]);
+        Vec<IntOf<T>, W> row[N];
+        pivots.template readLanes<IntOf<T>>(row);
+        Mask<T, W> isOutside{};
+        ZEPM_UNROLL
+        for (int i = 0; i < N; ++i) isOutside = isOutside | (row[i] < 0) | (row[i] >= N);
+        if (any(isOutside)) return false;
+        Vec<T, W> stored[N][N], b[N];
+        readMatrix<T>(matrix, stored);
+        rhs.template readRow<N>(sameRow<W>(0), b);
+        ZEPM_UNROLL
+        for (int i = 0; i < N; ++i)
+        {
+            ZEPM_UNROLL
+            for (int j = 0; j < N; ++j)
+                f[i][j] = picked<N>(
+                    row[i], [&](int r) __attribute__((always_inline)) { return stored[r][j]; });
+            y[i] = picked<N>(
+                row[i], [&](int r) __attribute__((always_inline)) { return b[r]; });
+        }
+    }
+    else
+    {
+        LaneRows<W> rows[N];
+        pivots.read(rows);
+        ZEPM_UNROLL
+        for (int i = 0; i < N; ++i)
+        {
+            matrix.template readRow<N>(rows[i], f[i]);
+            y[i] = rhs.getAcross(rows[i]);
+        }
     }
     solve(
         f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x / f[i][i]; });
     destination.template writeRow<N>(sameRow<W>(0), y);
+    return true;
 }
 
 // Systems with one matrix between them: its diagonal is inverted once.
@@ -98,8 +125,8 @@ ZEPM_INLINE void solveUnrolled(const X& x, const Matrix& matrix, const Rhs& rhs,
 {
     auto solveFrom = [&]<int W>(int32 k, int32 size) __attribute__((always_inline))
     {
-        solveGroup<T, N>(groupOf<W>(matrix, k, size), GroupPivots<const int32, N, W>(x.pivots, k, size),
-                         groupOf<W>(rhs, k, size), groupOf<W>(destination, k, size));
+        return solveGroup<T, N>(groupOf<W>(matrix, k, size), GroupPivots<const int32, N, W>(x.pivots, k, size),
+                                groupOf<W>(rhs, k, size), groupOf<W>(destination, k, size));
     };
     if constexpr (decltype(x.dst)::isArray)
     {
@@ -107,11 +134,10 @@ ZEPM_INLINE void solveUnrolled(const X& x, const Matrix& matrix, const Rhs& rhs,
         constexpr int leastGroup = 2; // fewer systems are not worth a group
         for (int32 left = x.count; left > 0; left -= W)
         {
+            const int32 k = x.count - left;
             const int32 size = left < W ? left : W;
-            if (size >= leastGroup)
-                solveFrom.template operator()<W>(x.count - left, size);
-            else
-                solveFrom.template operator()<1>(x.count - left, 1);
+            if (size >= leastGroup && solveFrom.template operator()<W>(k, size)) continue;
+            for (int32 n = k; n < k + size; ++n) solveFrom.template operator()<1>(n, 1);
         }
     }
     else
