@@ -1,7 +1,7 @@
 // The element-wise kernels: d(i, j) = op(a(i, j), b(i, j)) for each object, whatever the operands are.
 //
 // combinePacked serves contiguous rows with wide code; combineStrided and combineTable are plain loops over views,
-// written out for a few lengths; where the elements of successive objects lie side by side, they too become rows.
+// written out for a few sizes; where the elements of successive objects lie side by side, they too become rows.
 // forEachObject is the kernel of an array that only loops over the kernel of one object.
 #pragma once
 
@@ -12,83 +12,7 @@
 namespace zepm
 {
 
-// ---- Plain loops ----------------------------------------------------------------------------------------------------
-
-// The lengths for which a kernel's loop over elements is written out.
-template <int32... Length>
-struct lengths
-{
-};
-
-// One object, ascending: with overlapping operands each result may feed the next, as a plain loop gives it.
-template <class Op, class A, class B, class D>
-ZEPM_INLINE void combineObject(Op op, const A& a, const B& b, const D& d, int32 len)
-{
-    for (int32 j = 0; j < len; ++j) d.set(0, j, op(a.get(0, j), b.get(0, j)));
-}
-
-template <int32 Length, class Op, class A, class B, class D>
-ZEPM_INLINE void combineObjects(Op op, const A& a, const B& b, const D& d, int32 len, int32 count)
-{
-    for (int32 k = 0; k < count; ++k)
-    {
-        if constexpr (Length > 0)
-        {
-            const auto objectA = a.object(k);
-            const auto objectB = b.object(k);
-            const auto objectD = d.object(k);
-            ZEPM_UNROLL
-            for (int32 j = 0; j < Length; ++j) objectD.set(0, j, op(objectA.get(0, j), objectB.get(0, j)));
-        }
-        else
-        {
-            combineObject(op, a.object(k), b.object(k), d.object(k), len);
-        }
-    }
-}
-
-// The test on the length comes once a call, outside the loop over objects.
-template <class Op, class A, class B, class D>
-ZEPM_INLINE void combineViews(Op op, const A& a, const B& b, const D& d, int32 len, int32 count, lengths<>)
-{
-    combineObjects<0>(op, a, b, d, len, count);
-}
-
-template <class Op, class A, class B, class D, int32 First, int32... Rest>
-ZEPM_INLINE void combineViews(Op op, const A& a, const B& b, const D& d, int32 len, int32 count,
-                              lengths<First, Rest...>)
-{
-    if (len == First) return combineObjects<First>(op, a, b, d, len, count);
-    combineViews(op, a, b, d, len, count, lengths<Rest...>{});
-}
-
-// ---- Contiguous rows ------------------------------------------------------------------------------------------------
-
-template <class T, bool IsArray, int Rank>
-ZEPM_INLINE RowOperand rowsOf(const StridedBlock<T, IsArray, Rank>& block)
-{
-    return {bytes(block.p), block.stride0, !IsArray};
-}
-template <class T, int Rank>
-ZEPM_INLINE RowOperand rowsOf(const ListBlock<T, Rank>& block)
-{
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift, false};
-}
-template <class T>
-ZEPM_INLINE RowOperand rowsOf(const ConstantBlock<T>& block)
-{
-    return {bytes(&block.val), 0, true};
-}
-template <class T>
-ZEPM_INLINE RowOperand rowsOf(const ConstantArrayBlock<T>& block)
-{
-    return {bytes(block.p), block.stride0, false};
-}
-template <class T>
-ZEPM_INLINE RowOperand rowsOf(const ConstantListBlock<T>& block)
-{
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift, false};
-}
+// ---- What a block is ------------------------------------------------------------------------------------------------
 
 template <class>
 inline constexpr bool isConstantBlock = false;
@@ -104,9 +28,96 @@ inline constexpr bool isListBlock = false;
 template <class T, int Rank>
 inline constexpr bool isListBlock<ListBlock<T, Rank>> = true;
 
+template <class>
+inline constexpr bool isTransposedBlock = false;
+template <class Matrix>
+inline constexpr bool isTransposedBlock<TransposedBlock<Matrix>> = true;
+
+// A table's rows are as long as they are stored.
+template <bool Contiguous, class Block, class X>
+ZEPM_INLINE auto viewOf(const Block& block, const X& x)
+{
+    return block.template view<Contiguous>(isTransposedBlock<Block> ? x.height : x.width);
+}
+
+// ---- Plain loops ----------------------------------------------------------------------------------------------------
+
+// The sizes for which a kernel's loops over elements are written out: lengths of vectors, orders of square matrices.
+template <int Rank, int32... Size>
+struct written
+{
+};
+template <int32... Length>
+using lengths = written<1, Length...>;
+template <int32... Order>
+using orders = written<2, Order...>;
+
+// One object, ascending: with overlapping operands each result may feed the next, as a plain loop gives it.
+template <class Op, class A, class B, class D>
+ZEPM_INLINE void combineObject(Op op, const A& a, const B& b, const D& d, int32 width, int32 height)
+{
+    for (int32 i = 0; i < height; ++i)
+        for (int32 j = 0; j < width; ++j) d.set(i, j, op(a.get(i, j), b.get(i, j)));
+}
+
+template <int32 Width, int32 Height, class Op, class A, class B, class D>
+ZEPM_INLINE void combineWritten(Op op, const A& a, const B& b, const D& d)
+{
+    ZEPM_UNROLL
+    for (int32 i = 0; i < Height; ++i)
+    {
+        ZEPM_UNROLL
+        for (int32 j = 0; j < Width; ++j) d.set(i, j, op(a.get(i, j), b.get(i, j)));
+    }
+}
+
+// The test on the size comes once a call, outside the loop over objects.
+template <class Op, class A, class B, class D, int Rank, int32... Sizes>
+ZEPM_INLINE void combineViews(Op op, const A& a, const B& b, const D& d, int32 width, int32 height, int32 count,
+                              written<Rank, Sizes...>)
+{
+    [[maybe_unused]] auto combineIfSize = [&]<int32 Width>() __attribute__((always_inline))
+    {
+        constexpr int32 Height = Rank == 1 ? 1 : Width;
+        if (width != Width || height != Height) return false;
+        for (int32 k = 0; k < count; ++k) combineWritten<Width, Height>(op, a.object(k), b.object(k), d.object(k));
+        return true;
+    };
+    if ((... || combineIfSize.template operator()<Sizes>())) return;
+    for (int32 k = 0; k < count; ++k) combineObject(op, a.object(k), b.object(k), d.object(k), width, height);
+}
+
+// ---- Contiguous rows ------------------------------------------------------------------------------------------------
+
+template <class T, bool IsArray, int Rank>
+ZEPM_INLINE RowOperand rowsOf(const StridedBlock<T, IsArray, Rank>& block)
+{
+    return {bytes(block.p), block.stride0, !IsArray, block.stride1};
+}
+template <class T, int Rank>
+ZEPM_INLINE RowOperand rowsOf(const ListBlock<T, Rank>& block)
+{
+    return {reinterpret_cast<const char*>(block.pp), block.roiShift, false, block.stride1};
+}
+template <class T>
+ZEPM_INLINE RowOperand rowsOf(const ConstantBlock<T>& block)
+{
+    return {bytes(&block.val), 0, true, 0};
+}
+template <class T>
+ZEPM_INLINE RowOperand rowsOf(const ConstantArrayBlock<T>& block)
+{
+    return {bytes(block.p), block.stride0, false, 0};
+}
+template <class T>
+ZEPM_INLINE RowOperand rowsOf(const ConstantListBlock<T>& block)
+{
+    return {reinterpret_cast<const char*>(block.pp), block.roiShift, false, 0};
+}
+
 // ---- Elements side by side ------------------------------------------------------------------------------------------
 
-// Where the elements of successive objects lie side by side in every array, element j of all objects is a row.
+// Where the elements of successive objects lie side by side in every array, element (i, j) of all objects is a row.
 template <class T>
 ZEPM_INLINE bool liesAcross(const T& block)
 {
@@ -116,13 +127,13 @@ ZEPM_INLINE bool liesAcross(const T& block)
         return true;
 }
 
-template <class Block>
-ZEPM_INLINE RowOperand rowAcross(const Block& block, int32 j)
+template <class Block, class X>
+ZEPM_INLINE RowOperand rowAcross(const Block& block, const X& x, int32 i, int32 j)
 {
     if constexpr (isConstantBlock<Block>)
         return rowsOf(block);
     else
-        return {block.template view<false>(0).object(0).at(0, j), 0, true};
+        return {viewOf<false>(block, x).object(0).at(i, j), 0, true, 0};
 }
 
 template <class Op, class X>
@@ -132,14 +143,16 @@ ZEPM_INLINE void combineAcross(Op op, const X& x)
     // The operand that is the same for all objects is the constant of these rows, and stands second.
     constexpr bool isConstant = !decltype(x.src1)::isArray || !decltype(x.src2)::isArray;
     constexpr bool flips = !decltype(x.src1)::isArray;
-    for (int32 j = 0; j < x.len; ++j)
-    {
-        const RowOperand a = rowAcross(x.src1, j), b = rowAcross(x.src2, j), d = rowAcross(x.dst, j);
-        if constexpr (flips)
-            combineRows<decltype(flipped(op)), T>({b, a, d, isConstant, false, x.count, 1});
-        else
-            combineRows<Op, T>({a, b, d, isConstant, false, x.count, 1});
-    }
+    for (int32 i = 0; i < x.height; ++i)
+        for (int32 j = 0; j < x.width; ++j)
+        {
+            const RowOperand a = rowAcross(x.src1, x, i, j), b = rowAcross(x.src2, x, i, j),
+                             d = rowAcross(x.dst, x, i, j);
+            if constexpr (flips)
+                combineRows<decltype(flipped(op)), T>({b, a, d, isConstant, false, x.count, 1});
+            else
+                combineRows<Op, T>({a, b, d, isConstant, false, x.count, 1});
+        }
 }
 
 // Fewer objects than this do not repay a call for each element.
@@ -162,7 +175,7 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
         else
             return bytes(x.src2.p);
     }();
-    switch (x.len)
+    switch (x.width)
     {
     case 3: return ssse3::rowOf<T, 3>(op, a, b, d);
     case 4: return ssse3::rowOf<T, 4>(op, a, b, d);
@@ -174,15 +187,15 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
     {
         const auto from = reinterpret_cast<uintptr_t>(s), to = reinterpret_cast<uintptr_t>(d);
         const uintptr_t distance = from < to ? to - from : from - to;
-        return distance == 0 || distance / sizeof(T) >= static_cast<uintptr_t>(x.len);
+        return distance == 0 || distance / sizeof(T) >= static_cast<uintptr_t>(x.width);
     };
-    bool isApart = x.len > 6 && apart(a);
+    bool isApart = x.width > 6 && apart(a);
     if constexpr (!isConstant) isApart = isApart && apart(b);
     if (isApart)
-        combineRows<Op, T>({rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst), isConstant, false, x.len, 1});
+        combineRows<Op, T>({rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst), isConstant, false, x.width, 1});
     else
-        combineObject(op, x.src1.template view<true>(0).object(0), x.src2.template view<true>(0).object(0),
-                      x.dst.template view<true>(0).object(0), x.len);
+        combineObject(op, viewOf<true>(x.src1, x).object(0), viewOf<true>(x.src2, x).object(0),
+                      viewOf<true>(x.dst, x).object(0), x.width, 1);
 }
 
 // Contiguous elements.
@@ -190,17 +203,37 @@ template <class Op, class X>
 ZEPM_INLINE Status combinePacked(Op op, const X& x)
 {
     using Dst = decltype(x.dst);
-    if constexpr (Dst::isArray)
-        combineRows<Op, typename Dst::Element>({rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst),
-                                                isConstantBlock<decltype(x.src2)>, isListBlock<Dst>, x.len, x.count});
+    using T = typename Dst::Element;
+    constexpr bool isConstant = isConstantBlock<decltype(x.src2)>;
+    if constexpr (X::rank == 2)
+    {
+        // Where one source alone is transposed, it stands first.
+        constexpr bool isTransposedA = isTransposedBlock<decltype(x.src1)>;
+        constexpr bool isTransposedB = isTransposedBlock<decltype(x.src2)>;
+        if constexpr (isTransposedB && !isTransposedA)
+            combineMatrices<decltype(flipped(op)), T>(
+                {{rowsOf(x.src2), rowsOf(x.src1), rowsOf(x.dst), false, isListBlock<Dst>, x.width, x.count},
+                 x.height,
+                 true,
+                 false});
+        else
+            combineMatrices<Op, T>(
+                {{rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst), isConstant, isListBlock<Dst>, x.width, x.count},
+                 x.height,
+                 isTransposedA,
+                 isTransposedB});
+    }
+    else if constexpr (Dst::isArray)
+        combineRows<Op, T>(
+            {rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst), isConstant, isListBlock<Dst>, x.width, x.count});
     else
         combineVector(op, x);
     return stsOk;
 }
 
-// Elements at any distance, or behind tables; the lengths are those written out.
-template <class Op, class X, class Lengths = lengths<>>
-ZEPM_INLINE Status combineStrided(Op op, const X& x, Lengths written = {})
+// Elements at any distance, or behind tables; the sizes are those written out.
+template <class Op, class X, class Written = lengths<>>
+ZEPM_INLINE Status combineStrided(Op op, const X& x, Written sizes = {})
 {
     using Dst = decltype(x.dst);
     if constexpr (Dst::isArray && !isListBlock<Dst>)
@@ -211,22 +244,28 @@ ZEPM_INLINE Status combineStrided(Op op, const X& x, Lengths written = {})
             return stsOk;
         }
     }
-    combineViews(op, x.src1.template view<false>(0), x.src2.template view<false>(0), x.dst.template view<false>(0),
-                 x.len, x.count, written);
+    combineViews(op, viewOf<false>(x.src1, x), viewOf<false>(x.src2, x), viewOf<false>(x.dst, x), x.width, x.height,
+                 x.count, sizes);
     return stsOk;
 }
 
-template <class Op, class X>
-ZEPM_INLINE Status combineTable(Op op, const X& x)
+template <class Op, class X, class Written = lengths<>>
+ZEPM_INLINE Status combineTable(Op op, const X& x, Written sizes = {})
 {
-    return combineStrided(op, x);
+    return combineStrided(op, x, sizes);
 }
 
 // The arrays of L whose kernel is a loop over the kernel of one object.
 template <class X, class One>
 ZEPM_INLINE Status forEachObject(const X& x, Status (*kernel)(const One&))
 {
-    for (int32 k = 0; k < x.count; ++k) kernel({x.src1.object(k), x.src2.object(k), x.dst.object(k), x.len});
+    for (int32 k = 0; k < x.count; ++k)
+    {
+        if constexpr (X::rank == 1)
+            kernel({x.src1.object(k), x.src2.object(k), x.dst.object(k), x.width});
+        else
+            kernel({x.src1.object(k), x.src2.object(k), x.dst.object(k), x.width, x.height});
+    }
     return stsOk;
 }
 

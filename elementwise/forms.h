@@ -6,34 +6,35 @@
 namespace zepm
 {
 
-// What a call over arrays counts as its work. A block counts len elements, a constant array one, for each of its
-// objects.
+// What a call over arrays counts as its work. A block counts the elements of an object, a constant array one, for each
+// of its objects.
 struct ElementsTouched
 {
     template <class T>
-    ZEPM_INLINE static Work of(const ConstantArrayBlock<T>&, int32, int32 count)
+    ZEPM_INLINE static Work of(const ConstantArrayBlock<T>&, Work, int32 count)
     {
         return count;
     }
     template <class T>
-    ZEPM_INLINE static Work of(const ConstantListBlock<T>&, int32, int32 count)
+    ZEPM_INLINE static Work of(const ConstantListBlock<T>&, Work, int32 count)
     {
         return count;
     }
     template <class T>
-    ZEPM_INLINE static Work of(const ConstantBlock<T>&, int32, int32)
+    ZEPM_INLINE static Work of(const ConstantBlock<T>&, Work, int32)
     {
         return 0;
     }
-    template <class Vector>
-    ZEPM_INLINE static Work of(const Vector&, int32 len, int32 count)
+    template <class Block>
+    ZEPM_INLINE static Work of(const Block&, Work elements, int32 count)
     {
-        return Work(len) * Work(Vector::isArray ? count : 1);
+        return elements * Work(Block::isArray ? count : 1);
     }
     template <class X>
     ZEPM_INLINE static Work of(const X& x)
     {
-        return of(x.src1, x.len, x.count) + of(x.src2, x.len, x.count) + of(x.dst, x.len, x.count);
+        const Work elements = Work(x.width) * Work(x.height);
+        return of(x.src1, elements, x.count) + of(x.src2, elements, x.count) + of(x.dst, elements, x.count);
     }
 };
 
@@ -43,7 +44,7 @@ struct ConstantAsVector
     template <class X>
     ZEPM_INLINE static Work of(const X& x)
     {
-        return ElementsTouched::of(x) + x.len;
+        return ElementsTouched::of(x) + x.width;
     }
 };
 
@@ -57,52 +58,110 @@ struct TwoPerObject
     }
 };
 
-// Vectors or arrays of them, with vectors or constants.
-template <class Src1, class Src2, class Dst, class Estimate = ElementsTouched>
-struct Vectors
+// Objects or arrays of them, with objects or constants. A vector of len elements is a matrix of one row.
+template <int Rank, class Src1, class Src2, class Dst, class Estimate = ElementsTouched>
+struct Elementwise
 {
     static constexpr bool lightWork = true;
+    static constexpr int rank = Rank;
     Src1 src1;
     Src2 src2;
     Dst dst;
-    int32 len;
-    int32 count = 1;
+    int32 width, height, count;
+
+    ZEPM_INLINE Elementwise(Src1 a, Src2 b, Dst d, int32 len, int32 n = 1) requires(Rank == 1)
+        : src1(a), src2(b), dst(d), width(len), height(1), count(n)
+    {
+    }
+    ZEPM_INLINE Elementwise(Src1 a, Src2 b, Dst d, int32 columns, int32 rows, int32 n = 1) requires(Rank == 2)
+        : src1(a), src2(b), dst(d), width(columns), height(rows), count(n)
+    {
+    }
 
     template <class F>
     ZEPM_INLINE bool operands(F f) const
     {
         return f(src1) && f(src2) && f(dst);
     }
-    ZEPM_INLINE bool sizesValid() const { return len >= 1; }
+    ZEPM_INLINE bool sizesValid() const { return width >= 1 && height >= 1; }
     ZEPM_INLINE bool isPacked() const
     {
         return operands([](const auto& block) { return block.contiguous(); });
     }
     ZEPM_INLINE int32 estimate() const { return Estimate::of(*this).estimate(); }
-    ZEPM_INLINE Vectors share(int32 first, int32 n) const
+    ZEPM_INLINE Elementwise share(int32 first, int32 n) const
     {
-        return {src1.from(first), src2.from(first), dst.from(first), len, n};
+        Elementwise part = *this;
+        part.src1 = src1.from(first);
+        part.src2 = src2.from(first);
+        part.dst = dst.from(first);
+        part.count = n;
+        return part;
     }
 };
 
 template <class T, class Y>
-using Vv = Vectors<v<const T, Y>, v<const T, Y>, v<T, Y>>;
+using Vv = Elementwise<1, v<const T, Y>, v<const T, Y>, v<T, Y>>;
 template <class T, class Y>
-using Vc = Vectors<v<const T, Y>, c<T>, v<T, Y>>;
+using Vc = Elementwise<1, v<const T, Y>, c<T>, v<T, Y>>;
 
 template <class T, class Y>
-using Vac = Vectors<va<const T, Y>, c<T>, va<T, Y>, ConstantAsVector>;
+using Vac = Elementwise<1, va<const T, Y>, c<T>, va<T, Y>, ConstantAsVector>; // Add, Sub
 template <class T, class Y>
-using Cva = Vectors<va<const T, Y>, c<T>, va<T, Y>, TwoPerObject>;
+using MulVac = Elementwise<1, va<const T, Y>, c<T>, va<T, Y>>;
 template <class T, class Y>
-using Vca = Vectors<v<const T, Y>, ca<T, Y>, va<T, Y>>;
+using Cva = Elementwise<1, va<const T, Y>, c<T>, va<T, Y>, TwoPerObject>;
 template <class T, class Y>
-using Vaca = Vectors<va<const T, Y>, ca<T, Y>, va<T, Y>>;
+using Vca = Elementwise<1, v<const T, Y>, ca<T, Y>, va<T, Y>>;
 template <class T, class Y>
-using Vav = Vectors<va<const T, Y>, v<const T, Y>, va<T, Y>>;
+using Vaca = Elementwise<1, va<const T, Y>, ca<T, Y>, va<T, Y>>;
 template <class T, class Y>
-using Vva = Vectors<v<const T, Y>, va<const T, Y>, va<T, Y>>;
+using Vav = Elementwise<1, va<const T, Y>, v<const T, Y>, va<T, Y>>;
 template <class T, class Y>
-using Vava = Vectors<va<const T, Y>, va<const T, Y>, va<T, Y>>;
+using Vva = Elementwise<1, v<const T, Y>, va<const T, Y>, va<T, Y>>;
+template <class T, class Y>
+using Vava = Elementwise<1, va<const T, Y>, va<const T, Y>, va<T, Y>>;
+
+template <class T, class Y>
+using Mm = Elementwise<2, m<const T, Y>, m<const T, Y>, m<T, Y>>;
+template <class T, class Y>
+using Mt = Elementwise<2, m<const T, Y>, t<const T, Y>, m<T, Y>>;
+template <class T, class Y>
+using Tm = Elementwise<2, t<const T, Y>, m<const T, Y>, m<T, Y>>;
+template <class T, class Y>
+using Tt = Elementwise<2, t<const T, Y>, t<const T, Y>, m<T, Y>>;
+template <class T, class Y>
+using Mc = Elementwise<2, m<const T, Y>, c<T>, m<T, Y>>;
+template <class T, class Y>
+using Tc = Elementwise<2, t<const T, Y>, c<T>, m<T, Y>>;
+
+template <class T, class Y>
+using Mam = Elementwise<2, ma<const T, Y>, m<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Mat = Elementwise<2, ma<const T, Y>, t<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Tam = Elementwise<2, ta<const T, Y>, m<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Tat = Elementwise<2, ta<const T, Y>, t<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Mma = Elementwise<2, m<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Mta = Elementwise<2, m<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Tma = Elementwise<2, t<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Tta = Elementwise<2, t<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Mama = Elementwise<2, ma<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Mata = Elementwise<2, ma<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Tama = Elementwise<2, ta<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Tata = Elementwise<2, ta<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+template <class T, class Y>
+using Mac = Elementwise<2, ma<const T, Y>, c<T>, ma<T, Y>>;
+template <class T, class Y>
+using Tac = Elementwise<2, ta<const T, Y>, c<T>, ma<T, Y>>;
 
 } // namespace zepm

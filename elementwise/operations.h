@@ -35,9 +35,19 @@ struct MinusFrom
     }
 };
 
+struct Times
+{
+    template <class V>
+    ZEPM_INLINE V operator()(V a, V b) const
+    {
+        return a * b;
+    }
+};
+
 // The same operation with its operands in the other order.
 ZEPM_INLINE Plus flipped(Plus) { return {}; }
 ZEPM_INLINE MinusFrom flipped(Minus) { return {}; }
 ZEPM_INLINE Minus flipped(MinusFrom) { return {}; }
+ZEPM_INLINE Times flipped(Times) { return {}; }
 
 } // namespace zepm

@@ -35,16 +35,20 @@ ZEPM_INLINE void piece(Op op, const char* a, B b, char* d, ptrdiff_t j)
     storeVec<T, N>(d + j * sz<T>, results<T, N>(op, a, b, j));
 }
 
-// Elements j to n - 1, fewer than 2 * N: by halves.
+// Fewer than 2 * N elements: two vectors that may overlap, both computed before either is stored.
 template <class T, int N, class Op, class B>
-ZEPM_INLINE void rowTail(Op op, const char* a, B b, char* d, ptrdiff_t j, ptrdiff_t n)
+ZEPM_INLINE void shortRow(Op op, const char* a, B b, char* d, ptrdiff_t n)
 {
-    if (n - j >= N)
+    if (n >= N)
     {
-        piece<T, N>(op, a, b, d, j);
-        j += N;
+        const Vec<T, N> first = results<T, N>(op, a, b, 0), last = results<T, N>(op, a, b, n - N);
+        storeVec<T, N>(d, first);
+        storeVec<T, N>(d + (n - N) * sz<T>, last);
     }
-    if constexpr (N > 1) rowTail<T, N / 2>(op, a, b, d, j, n);
+    else if constexpr (N > 1)
+    {
+        shortRow<T, N / 2>(op, a, b, d, n);
+    }
 }
 
 // A row that repays aligning its stores: one that crosses a cache line costs two.
@@ -56,11 +60,14 @@ template <class T, bool Streams = false, class Op, class B>
 ZEPM_INLINE void row(Op op, const char* a, B b, char* d, ptrdiff_t n)
 {
     constexpr int W = lanes<T>;
+    if (n < W) return shortRow<T, W / 2>(op, a, b, d, n);
+    // The last register's worth overlaps what is stored before it, so in place it is computed first.
+    const Vec<T, W> last = results<T, W>(op, a, b, n - W);
     ptrdiff_t j = 0;
     if (Streams || n >= longRow<T>)
     {
         j = static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(d) % registerBytes) / sz<T>;
-        rowTail<T, W / 2>(op, a, b, d, 0, j);
+        shortRow<T, W / 2>(op, a, b, d, j);
     }
     for (; j + 4 * W <= n; j += 4 * W)
     {
@@ -75,7 +82,7 @@ ZEPM_INLINE void row(Op op, const char* a, B b, char* d, ptrdiff_t n)
     }
     if constexpr (Streams) fenceStreams();
     for (; j + W <= n; j += W) piece<T, W>(op, a, b, d, j);
-    rowTail<T, W / 2>(op, a, b, d, j, n);
+    if (j < n) storeVec<T, W>(d + (n - W) * sz<T>, last);
 }
 
 // The pieces of a row whose length is known, widest first: visit.operator()<N, J>() for N elements from element J.

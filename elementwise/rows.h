@@ -8,22 +8,30 @@
 namespace zepm
 {
 
-// Where the rows of one operand lie, one for each object: row k at p + k * stride or, in a list, at entry k of the
-// table p plus stride. A fixed operand, the same for every object, is never a list.
+// Where the rows of one operand lie, those of object k from p + k * stride on or, in a list, from entry k of the table
+// p plus stride. A fixed operand, the same for every object, is never a list.
 struct RowOperand
 {
     const char* p;
     ptrdiff_t stride;
     bool isFixed;
+    ptrdiff_t rowStride; // from row to row of one object
 };
 
-// d = op(a, b) on count rows of width elements.
+// d = op(a, b) on count objects of one row of width elements.
 struct RowCall
 {
     RowOperand a, b, d;
-    bool isConstant; // b is one element for each row, or a fixed one for all
+    bool isConstant; // b is one element for each object, or a fixed one for all
     bool isList;
     ptrdiff_t width, count;
+};
+
+// The same on objects of several rows. A transposed source is stored as width rows of height elements.
+struct MatrixCall : RowCall
+{
+    ptrdiff_t height;
+    bool isTransposedA, isTransposedB;
 };
 
 #define ZEPM_DECLARE_LEVEL(level)                                                                                      \
@@ -31,6 +39,8 @@ struct RowCall
     {                                                                                                                  \
     template <class Op, class T>                                                                                       \
     void combineRows(const RowCall& call);                                                                             \
+    template <class Op, class T>                                                                                       \
+    void combineMatrices(const MatrixCall& call);                                                                      \
     }
 ZEPM_DECLARE_LEVEL(ssse3)
 ZEPM_DECLARE_LEVEL(avx2)
@@ -41,6 +51,12 @@ template <class Op, class T>
 ZEPM_INLINE void combineRows(const RowCall& call)
 {
     atLevel(ssse3::combineRows<Op, T>, avx2::combineRows<Op, T>, avx512::combineRows<Op, T>)(call);
+}
+
+template <class Op, class T>
+ZEPM_INLINE void combineMatrices(const MatrixCall& call)
+{
+    atLevel(ssse3::combineMatrices<Op, T>, avx2::combineMatrices<Op, T>, avx512::combineMatrices<Op, T>)(call);
 }
 
 } // namespace zepm

@@ -161,8 +161,8 @@ struct Spread
 
 // ---- Loops over the rows --------------------------------------------------------------------------------------------
 
-// Length 0 stands for any length.
-template <class T, int Length, class Op, class A, class B, class D>
+// Length 0 stands for any length. Streams writes past the caches; each row is then of whole registers and aligned.
+template <class T, int Length, bool Streams = false, class Op, class A, class B, class D>
 ZEPM_INLINE void rows(Op op, A a, B b, D d, ptrdiff_t width, ptrdiff_t count)
 {
     for (ptrdiff_t k = 0; k < count; ++k)
@@ -172,7 +172,11 @@ ZEPM_INLINE void rows(Op op, A a, B b, D d, ptrdiff_t width, ptrdiff_t count)
         char* const to = const_cast<char*>(d.at());
         if constexpr (Length > 0)
             pieces<T, Length>([&]<int N, int J>() __attribute__((always_inline)) {
-                storeVec<T, N>(to + J * sz<T>, op(a.template get<N, J>(), b.template get<N, J>()));
+                const Vec<T, N> x = op(a.template get<N, J>(), b.template get<N, J>());
+                if constexpr (Streams)
+                    streamVec<T>(to + J * sz<T>, x);
+                else
+                    storeVec<T, N>(to + J * sz<T>, x);
             });
         else
             row<T>(op, a.whole(), b.whole(), to, width);
@@ -212,27 +216,40 @@ template <class T, int Length, class Lying, class Op>
         rows<T, Length>(op, a, b, d, c.width, c.count);
 }
 
-// Dense rows of few elements: as many of them as a register has lanes are one row of Length whole registers.
-template <class T, int Length, class Op>
-[[gnu::noinline]] ptrdiff_t groupsOf(Op op, const RowCall& c)
+// How many dense rows fill whole registers together; with constants it is as many as a register holds.
+template <class T, int Length, bool isConstant>
+constexpr int groupSize()
 {
-    constexpr int W = lanes<T>;
-    constexpr ptrdiff_t groupSize = Length * registerBytes;
-    auto streamed = [&](const RowOperand& operand) __attribute__((always_inline))
-    {
-        return Elements<T, Stepping>{Stepping({operand.p, groupSize, false})};
-    };
-    const Stepping d({c.d.p, groupSize, false});
-    const ptrdiff_t count = c.count / W;
-    if (c.isConstant && c.a.isFixed)
-        rows<T, Length * W>(op, Held<T, Length, W>(c.a.p), Spread<T, Length>{c.b.p}, d, 0, count);
-    else if (c.isConstant)
-        rows<T, Length * W>(op, streamed(c.a), Spread<T, Length>{c.b.p}, d, 0, count);
-    else if (c.a.isFixed)
-        rows<T, Length * W>(op, Held<T, Length, W>(c.a.p), streamed(c.b), d, 0, count);
+    if (isConstant) return lanes<T>;
+    int size = 1;
+    while (size * Length % lanes<T> != 0) size *= 2;
+    return size;
+}
+
+// Dense rows of few elements in groups of whole registers: count of them, each a row of its own.
+template <class T, int Length, bool Streams, class Op>
+[[gnu::noinline]] void groupsWithConstants(Op op, const RowCall& c, ptrdiff_t count)
+{
+    constexpr int size = groupSize<T, Length, true>();
+    constexpr ptrdiff_t groupBytes = size * Length * sz<T>;
+    const Stepping a({c.a.p, groupBytes, false, 0}), d({c.d.p, groupBytes, false, 0});
+    const Spread<T, Length> b{c.b.p};
+    if (c.a.isFixed)
+        rows<T, Length * size, Streams>(op, Held<T, Length, size>(c.a.p), b, d, 0, count);
     else
-        rows<T, Length * W>(op, streamed(c.a), Held<T, Length, W>(c.b.p), d, 0, count);
-    return count * W;
+        rows<T, Length * size, Streams>(op, Elements<T, Stepping>{a}, b, d, 0, count);
+}
+template <class T, int Length, bool Streams, class Op>
+[[gnu::noinline]] void groupsWithFixed(Op op, const RowCall& c, ptrdiff_t count)
+{
+    constexpr int size = groupSize<T, Length, false>();
+    constexpr ptrdiff_t groupBytes = size * Length * sz<T>;
+    const Elements<T, Stepping> a{Stepping({c.a.p, groupBytes, false, 0})}, b{Stepping({c.b.p, groupBytes, false, 0})};
+    const Stepping d({c.d.p, groupBytes, false, 0});
+    if (c.a.isFixed)
+        rows<T, Length * size, Streams>(op, Held<T, Length, size>(c.a.p), b, d, 0, count);
+    else
+        rows<T, Length * size, Streams>(op, a, Held<T, Length, size>(c.b.p), d, 0, count);
 }
 
 // ---- The call -------------------------------------------------------------------------------------------------------
@@ -268,9 +285,10 @@ ZEPM_INLINE bool isBeyondCaches(const RowCall& c, ptrdiff_t n)
     constexpr ptrdiff_t least = 1 << 20;
     if (n < least || c.a.p == c.d.p || c.b.p == c.d.p || reinterpret_cast<uintptr_t>(c.d.p) % sizeof(T) != 0)
         return false;
+    const auto streams = [&](const RowOperand& operand) { return c.count == 1 || !operand.isFixed ? 1 : 0; };
     int32 cacheSize = 0;
     zepGetMaxCacheSizeB(&cacheSize);
-    return cacheSize > 0 && n > cacheSize / sz<T> / (c.isConstant ? 2 : 3);
+    return cacheSize > 0 && n > cacheSize / sz<T> / (1 + streams(c.a) + (c.isConstant ? 0 : streams(c.b)));
 }
 
 template <class T, class Op>
@@ -285,6 +303,55 @@ template <class T, class Op>
     c.isConstant ? along(load<T>(c.b.p)) : along(c.b.p);
 }
 
+// The rows of a call from row k on.
+ZEPM_INLINE RowCall restOf(const RowCall& c, ptrdiff_t k)
+{
+    RowCall rest = c;
+    auto skip = [&](RowOperand & operand) __attribute__((always_inline))
+    {
+        if (!operand.isFixed) operand.p += k * operand.stride;
+    };
+    skip(rest.a), skip(rest.b), skip(rest.d);
+    rest.count -= k;
+    return rest;
+}
+
+// Dense rows before the first that starts a register of the destination, or -1 where none does.
+template <class T>
+ZEPM_INLINE ptrdiff_t rowsToAlignment(const RowCall& c)
+{
+    for (ptrdiff_t k = 0; k < lanes<T>; ++k)
+        if (reinterpret_cast<uintptr_t>(c.d.p + k * c.d.stride) % registerBytes == 0) return k;
+    return -1;
+}
+
+// Matrices of orders 3 to 6 are rows of 9 to 36 elements; those have groups, but no code for single rows.
+template <int Length>
+inline constexpr int singleLength = Length > 6 ? 0 : Length;
+
+// Dense rows in groups, and what is left over one by one.
+template <class T, int Length, bool isConstant, class Op>
+[[gnu::noinline]] void grouped(Op op, const RowCall& c)
+{
+    constexpr ptrdiff_t size = groupSize<T, Length, isConstant>();
+    auto groupsOf = [&]<bool Streams>(const RowCall& part) __attribute__((always_inline))
+    {
+        const ptrdiff_t count = part.count / size;
+        if constexpr (isConstant)
+            groupsWithConstants<T, Length, Streams>(op, part, count);
+        else
+            groupsWithFixed<T, Length, Streams>(op, part, count);
+        if (count * size < part.count) rowsOf<T, singleLength<Length>, Stepping>(op, restOf(part, count * size));
+    };
+    const ptrdiff_t first = isBeyondCaches<T>(c, c.width * c.count) ? rowsToAlignment<T>(c) : -1;
+    if (first < 0) return groupsOf.template operator()<false>(c);
+    RowCall head = c;
+    head.count = first;
+    rowsOf<T, singleLength<Length>, Stepping>(op, head);
+    groupsOf.template operator()<true>(restOf(c, first));
+    fenceStreams();
+}
+
 template <class T, int Length, class Op>
 ZEPM_INLINE void rowsInOrder(Op op, const RowCall& call)
 {
@@ -292,19 +359,12 @@ ZEPM_INLINE void rowsInOrder(Op op, const RowCall& call)
     {
         if (isGrouped<T>(call))
         {
-            const ptrdiff_t done = groupsOf<T, Length>(op, call);
-            if (done == call.count) return;
-            RowCall rest = call;
-            auto skip = [&](RowOperand & operand) __attribute__((always_inline))
-            {
-                if (!operand.isFixed) operand.p += done * operand.stride;
-            };
-            skip(rest.a), skip(rest.b), skip(rest.d);
-            rest.count -= done;
-            return rowsOf<T, Length, Stepping>(op, rest);
+            if (!call.isConstant) return grouped<T, Length, false>(op, call);
+            if constexpr (Length <= 6) return grouped<T, Length, true>(op, call);
         }
     }
-    call.isList ? rowsOf<T, Length, Listed>(op, call) : rowsOf<T, Length, Stepping>(op, call);
+    call.isList ? rowsOf<T, singleLength<Length>, Listed>(op, call)
+                : rowsOf<T, singleLength<Length>, Stepping>(op, call);
 }
 
 } // namespace
@@ -319,6 +379,10 @@ void combineRows(const RowCall& c)
     case 4: return rowsInOrder<T, 4>(Op{}, c);
     case 5: return rowsInOrder<T, 5>(Op{}, c);
     case 6: return rowsInOrder<T, 6>(Op{}, c);
+    case 9: return rowsInOrder<T, 9>(Op{}, c);
+    case 16: return rowsInOrder<T, 16>(Op{}, c);
+    case 25: return rowsInOrder<T, 25>(Op{}, c);
+    case 36: return rowsInOrder<T, 36>(Op{}, c);
     default: return rowsInOrder<T, 0>(Op{}, c);
     }
 }
@@ -329,5 +393,7 @@ template void combineRows<Minus, float32>(const RowCall&);
 template void combineRows<Minus, float64>(const RowCall&);
 template void combineRows<MinusFrom, float32>(const RowCall&);
 template void combineRows<MinusFrom, float64>(const RowCall&);
+template void combineRows<Times, float32>(const RowCall&);
+template void combineRows<Times, float64>(const RowCall&);
 
 } // namespace zepm::ZEPM_LEVEL

@@ -152,6 +152,7 @@ template <class Object>
 struct TransposedObject
 {
     Object stored;
+    ZEPM_INLINE auto at(int32 i, int32 j) const { return stored.at(j, i); }
     ZEPM_INLINE auto get(int32 i, int32 j) const { return stored.get(j, i); }
 };
 
@@ -315,6 +316,7 @@ struct ConstantBlock : Block<T>
 
     ZEPM_INLINE ConstantBlock(T value) : val(value) {}
     ZEPM_INLINE ConstantBlock from(int32) const { return *this; }
+    ZEPM_INLINE const ConstantBlock& object(int32) const { return *this; }
     template <bool>
     ZEPM_INLINE auto view(int32) const
     {

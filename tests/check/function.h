@@ -72,7 +72,7 @@ struct Problem
     std::vector<Tensor<T>> operands;
     Status status = stsOk; // what the call returns
     bool mayFail = false;  // whether the values may hold an object that fails
-    bool isPacked = true;  // whether all elements lie side by side in their rows, where they have strides
+    bool isPacked = false; // every stride2 is the element size
 };
 
 template <class T>

@@ -77,7 +77,7 @@ void Image::chooseStrides(Strides strides)
         break;
     case Strides::FarElements:
         stride2 = farStride(sz) - n * sz;
-        stride0 = (5 + n) * sz;
+        stride0 = rows * stride1 + (2 + n) * sz;
         break;
     }
 }

@@ -67,7 +67,6 @@ public:
     void placeAt(const Image& other);
 
     size_t elementSize() const { return static_cast<size_t>(sz); }
-    bool isPacked() const { return !isLaid() || isTable() || stride2 == sz; }
     char* element(int k, int i, int j) const { return base + offset(k, i, j); }
     std::vector<NamedArg> args() const;
 

@@ -90,8 +90,7 @@ template <class T>
 void Trial::fill(const Case& chosen)
 {
     std::mt19937 random(chosen.seed);
-    Problem<T> problem{chosen.sizes, chosen.count, {}, stsOk, chosen.mayFail};
-    for (const Image& image : images) problem.isPacked = problem.isPacked && image.isPacked();
+    Problem<T> problem{chosen.sizes, chosen.count, {}, stsOk, chosen.mayFail, isPacked()};
     auto forEach = [&](auto visit) {
         for (size_t n = 0; n < images.size(); ++n)
         {
@@ -195,6 +194,16 @@ std::vector<NamedArg> Trial::args() const
     return list;
 }
 
+bool Trial::isPacked() const
+{
+    for (const Image& image : images)
+        for (const NamedArg& arg : image.args())
+            if (arg.name == image.operand.name + "Stride2" &&
+                static_cast<size_t>(std::get<int32>(arg.value)) != image.elementSize())
+                return false;
+    return true;
+}
+
 std::vector<Arg> Trial::values(const std::vector<NamedArg>& args)
 {
     std::vector<Arg> list;
@@ -255,8 +264,8 @@ std::string Trial::difference() const
     std::vector<std::vector<char>> wanted = before;
     forEachResult([&](size_t n, int k, int i, int j, const char* from, size_t sz) {
         const char* const p = images[n].element(k, i, j);
-        const bool isAlike = function.nansAlike && function.operands[n].storage != Storage::Index && isNan(p, sz) &&
-                             isNan(from, sz);
+        const bool isAlike =
+            function.nansAlike && function.operands[n].storage != Storage::Index && isNan(p, sz) && isNan(from, sz);
         for (size_t image = 0; image < images.size(); ++image) // in place, a source shows the results as well
             if (image == n || images[image].bytesBegin() == images[n].bytesBegin())
                 std::memcpy(wanted[image].data() + images[image].spanOffset(p), isAlike ? p : from, sz);

@@ -51,6 +51,7 @@ public:
     const Function& function;
 
 private:
+    bool isPacked() const;
     template <class T>
     void fill(const Case& chosen);
     template <class Visit>

@@ -29,6 +29,7 @@ template <class T>
 std::function<void(Problem<T>&)> reference(const std::string& operation, bool constantFirst)
 {
     if (operation == "Add") return [=](Problem<T>& problem) { combine<std::plus<T>>(problem, constantFirst); };
+    if (operation == "Mul") return [=](Problem<T>& problem) { combine<std::multiplies<T>>(problem, constantFirst); };
     return [=](Problem<T>& problem) { combine<std::minus<T>>(problem, constantFirst); };
 }
 
@@ -55,8 +56,19 @@ const std::map<std::string, Form> forms = {
     {"vava", {"NCZT", "NCZTR", "NCZTR", [](int32 len, int32 count) { return 3 * len * count; }}},
 };
 
-// 32f and 64f in the layouts S, L, P.
+// 32f and 64f in the layouts S, L, P; of Mul the packed and the general ones.
 const int32 limits[2][3] = {{4801, 2501, 1501}, {1401, 2501, 1501}};
+const Limits mulVacLimits[2][3] = {{{2501, 1441}, {3601, 1441}, {1441, 1441}},
+                                   {{3601, 1441}, {3601, 1441}, {1441, 1441}}};
+const int32 mulConstantsLimits[3] = {2101, 1201, 651};
+
+Limits limitsOf(const Function& f)
+{
+    const int type = f.isFloat32 ? 0 : 1, layout = static_cast<int>(f.layout);
+    if (f.operation == "Mul" && f.form == "vac") return mulVacLimits[type][layout];
+    const int32 limit = f.operation == "Mul" ? mulConstantsLimits[layout] : limits[type][layout];
+    return f.form == "cva" ? Limits{limit - 1, limit - 1} : Limits{limit, limit};
+}
 
 // The functions that test less than their neighbours.
 struct Narrowed
@@ -89,11 +101,12 @@ Function completed(Function f)
     }
     if (form.estimate)
     {
-        const int32 limit = limits[f.isFloat32 ? 0 : 1][static_cast<int>(f.layout)] - (f.form == "cva" ? 1 : 0);
-        f.limits = {limit, limit};
-        f.estimate = [estimate = form.estimate](const std::vector<int>& sizes, int32 count) {
-            return estimate(sizes[0], count);
-        };
+        f.limits = limitsOf(f);
+        // Add and Sub count the constant as a vector, Mul does not.
+        const auto estimate = f.operation == "Mul" && f.form == "vac"
+                                  ? [](int32 len, int32 count) { return 2 * len * count; }
+                                  : form.estimate;
+        f.estimate = [estimate](const std::vector<int>& sizes, int32 count) { return estimate(sizes[0], count); };
     }
     const bool constantFirst = f.form[0] == 'c';
     if (f.isFloat32)
@@ -137,6 +150,12 @@ std::vector<Function> vectorFunctions()
         ROW(zepmSub_vca_32f),    ROW(zepmSub_vca_32f_L),  ROW(zepmSub_vca_32f_P),  ROW(zepmSub_vca_64f),
         ROW(zepmSub_vca_64f_L),  ROW(zepmSub_vca_64f_P),  ROW(zepmSub_cav_32f),    ROW(zepmSub_cav_32f_L),
         ROW(zepmSub_cav_32f_P),  ROW(zepmSub_cav_64f),    ROW(zepmSub_cav_64f_L),  ROW(zepmSub_cav_64f_P),
+        ROW(zepmMul_vc_32f),     ROW(zepmMul_vc_32f_P),   ROW(zepmMul_vc_64f),     ROW(zepmMul_vc_64f_P),
+        ROW(zepmMul_vac_32f),    ROW(zepmMul_vac_32f_L),  ROW(zepmMul_vac_32f_P),  ROW(zepmMul_vac_64f),
+        ROW(zepmMul_vac_64f_L),  ROW(zepmMul_vac_64f_P),  ROW(zepmMul_vca_32f),    ROW(zepmMul_vca_32f_L),
+        ROW(zepmMul_vca_32f_P),  ROW(zepmMul_vca_64f),    ROW(zepmMul_vca_64f_L),  ROW(zepmMul_vca_64f_P),
+        ROW(zepmMul_vaca_32f),   ROW(zepmMul_vaca_32f_L), ROW(zepmMul_vaca_32f_P), ROW(zepmMul_vaca_64f),
+        ROW(zepmMul_vaca_64f_L), ROW(zepmMul_vaca_64f_P),
     };
 }
 

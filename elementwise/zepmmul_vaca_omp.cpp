@@ -1,0 +1,27 @@
+// Drivers of zepmMul_vaca.
+#include "elementwise/mul.h"
+#include "frame/parallel.h"
+
+namespace zepm
+{
+
+Status ownOMP_zepmMul_vaca_32f(const Vaca<float32, S>& x)
+{
+    return shareObjects(x, ownMul_vaca_32f_Packed, ownMul_vaca_32f_Strided);
+}
+Status ownOMP_zepmMul_vaca_32f_L(const Vaca<float32, L>& x)
+{
+    return shareObjects(x, ownMul_vaca_32f_L_Packed, ownMul_vaca_32f_L_Strided);
+}
+Status ownOMP_zepmMul_vaca_32f_P(const Vaca<float32, P>& x) { return shareObjects(x, ownMul_vaca_32f_P); }
+Status ownOMP_zepmMul_vaca_64f(const Vaca<float64, S>& x)
+{
+    return shareObjects(x, ownMul_vaca_64f_Packed, ownMul_vaca_64f_Strided);
+}
+Status ownOMP_zepmMul_vaca_64f_L(const Vaca<float64, L>& x)
+{
+    return shareObjects(x, ownMul_vaca_64f_L_Packed, ownMul_vaca_64f_L_Strided);
+}
+Status ownOMP_zepmMul_vaca_64f_P(const Vaca<float64, P>& x) { return shareObjects(x, ownMul_vaca_64f_P); }
+
+} // namespace zepm

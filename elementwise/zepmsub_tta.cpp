@@ -1,0 +1,106 @@
+// zepmSub_tta: d[k](i, j) = s1(j, i) - s2[k](j, i)
+#include "elementwise/combine.h"
+#include "elementwise/sub_matrices.h"
+#include "zepm_elementwise.h"
+
+namespace zepm
+{
+
+Status ownSub_tta_32f_Packed(const Tta<float32, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_tta_32f_Strided(const Tta<float32, S>& x) { return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_tta_32f_L_Packed(const Tta<float32, L>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_tta_32f_L_Strided(const Tta<float32, L>& x) { return forEachObject(x, ownSub_tt_32f_Strided); }
+Status ownSub_tta_32f_P(const Tta<float32, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_tta_64f_Packed(const Tta<float64, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_tta_64f_Strided(const Tta<float64, S>& x) { return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_tta_64f_L_Packed(const Tta<float64, L>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_tta_64f_L_Strided(const Tta<float64, L>& x) { return forEachObject(x, ownSub_tt_64f_Strided); }
+Status ownSub_tta_64f_P(const Tta<float64, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+
+} // namespace zepm
+
+using namespace zepm;
+
+Status zepmSub_tta_32f(const float32* pSrc1, int32 src1Stride1, int32 src1Stride2, const float32* pSrc2,
+                       int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float32* pDst, int32 dstStride0,
+                       int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
+{
+    const Tta<float32, S> x{{pSrc1, src1Stride1, src1Stride2},
+                            {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                            {pDst, dstStride0, dstStride1, dstStride2},
+                            width,
+                            height,
+                            count};
+    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3000, 2000>{}, ownSub_tta_32f_Packed,
+                 ownSub_tta_32f_Strided, ownOMP_zepmSub_tta_32f);
+}
+
+Status zepmSub_tta_32f_L(const float32* pSrc1, int32 src1Stride1, int32 src1Stride2, const float32* const* ppSrc2,
+                         int32 src2RoiShift, int32 src2Stride1, int32 src2Stride2, float32* const* ppDst,
+                         int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
+{
+    const Tta<float32, L> x{{pSrc1, src1Stride1, src1Stride2},
+                            {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
+                            {ppDst, dstRoiShift, dstStride1, dstStride2},
+                            width,
+                            height,
+                            count};
+    return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_tta_32f_L_Packed,
+                 ownSub_tta_32f_L_Strided, ownOMP_zepmSub_tta_32f_L);
+}
+
+Status zepmSub_tta_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, const float32* const* ppSrc2,
+                         int32 src2RoiShift, int32 src2Stride0, float32* const* ppDst, int32 dstRoiShift,
+                         int32 dstStride0, int32 width, int32 height, int32 count)
+{
+    const Tta<float32, P> x{{ppSrc1, src1RoiShift},
+                            {ppSrc2, src2RoiShift, src2Stride0},
+                            {ppDst, dstRoiShift, dstStride0},
+                            width,
+                            height,
+                            count};
+    return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_tta_32f_P,
+                 ownOMP_zepmSub_tta_32f_P);
+}
+
+Status zepmSub_tta_64f(const float64* pSrc1, int32 src1Stride1, int32 src1Stride2, const float64* pSrc2,
+                       int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float64* pDst, int32 dstStride0,
+                       int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
+{
+    const Tta<float64, S> x{{pSrc1, src1Stride1, src1Stride2},
+                            {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                            {pDst, dstStride0, dstStride1, dstStride2},
+                            width,
+                            height,
+                            count};
+    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2000>{}, ownSub_tta_64f_Packed,
+                 ownSub_tta_64f_Strided, ownOMP_zepmSub_tta_64f);
+}
+
+Status zepmSub_tta_64f_L(const float64* pSrc1, int32 src1Stride1, int32 src1Stride2, const float64* const* ppSrc2,
+                         int32 src2RoiShift, int32 src2Stride1, int32 src2Stride2, float64* const* ppDst,
+                         int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
+{
+    const Tta<float64, L> x{{pSrc1, src1Stride1, src1Stride2},
+                            {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
+                            {ppDst, dstRoiShift, dstStride1, dstStride2},
+                            width,
+                            height,
+                            count};
+    return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_tta_64f_L_Packed,
+                 ownSub_tta_64f_L_Strided, ownOMP_zepmSub_tta_64f_L);
+}
+
+Status zepmSub_tta_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, const float64* const* ppSrc2,
+                         int32 src2RoiShift, int32 src2Stride0, float64* const* ppDst, int32 dstRoiShift,
+                         int32 dstStride0, int32 width, int32 height, int32 count)
+{
+    const Tta<float64, P> x{{ppSrc1, src1RoiShift},
+                            {ppSrc2, src2RoiShift, src2Stride0},
+                            {ppDst, dstRoiShift, dstStride0},
+                            width,
+                            height,
+                            count};
+    return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_tta_64f_P,
+                 ownOMP_zepmSub_tta_64f_P);
+}
