@@ -202,56 +202,10 @@ ZEPM_INLINE void multiplyTiles(const ProductCall& call)
     }
 }
 
-// ---- Results beyond the caches --------------------------------------------------------------------------------------
-
-// Dense results that no cache would hold are stored past the caches, which saves reading the destination first.
-template <class T>
-ZEPM_INLINE bool isBeyondCaches(const ProductCall& c)
-{
-    constexpr int64_t least = 1 << 20;
-    const ptrdiff_t rowSize = c.cols * sz<T>, size = c.rows * rowSize;
-    const bool isDense = !c.isList && c.d.stride1 == rowSize && c.d.step == size;
-    const int64_t bytes = static_cast<int64_t>(c.count) * size * (1 + !c.a.isFixed + !c.b.isFixed);
-    if (!isDense || bytes < least) return false;
-    int32 cacheSize = 0;
-    zepGetMaxCacheSizeB(&cacheSize);
-    return cacheSize > 0 && bytes > cacheSize;
-}
-
-ZEPM_INLINE void streamBytes(char* to, const char* from, ptrdiff_t n)
-{
-    const ptrdiff_t toAligned = static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(to) % registerBytes);
-    ptrdiff_t j = toAligned < n ? toAligned : n;
-    __builtin_memcpy(to, from, static_cast<size_t>(j));
-    for (; j + registerBytes <= n; j += registerBytes)
-        streamVec<float32>(to + j, loadVec<float32, lanes<float32>>(from + j));
-    __builtin_memcpy(to + j, from + j, static_cast<size_t>(n - j));
-}
-
-// In blocks of objects, each by way of a buffer in the first cache.
-template <class Multiply>
-ZEPM_INLINE void multiplyInBlocks(const ProductCall& call, ptrdiff_t elementSize, Multiply multiply)
-{
-    constexpr ptrdiff_t blockSize = 8192;
-    alignas(64) char block[blockSize];
-    const ptrdiff_t rowSize = call.cols * elementSize, size = call.rows * rowSize;
-    ProductCall part = call;
-    part.d = {block, size, rowSize, false};
-    for (ptrdiff_t done = 0; done < call.count; done += part.count)
-    {
-        part.count = blockSize / size < call.count - done ? blockSize / size : call.count - done;
-        multiply(part);
-        streamBytes(const_cast<char*>(call.d.p) + done * size, block, part.count * size);
-        if (!call.a.isFixed) part.a.p += part.count * call.a.step;
-        if (!call.b.isFixed) part.b.p += part.count * call.b.step;
-    }
-    fenceStreams();
-}
-
 // ---- The call -------------------------------------------------------------------------------------------------------
 
 template <class T, bool Transposes1, bool Transposes2>
-[[gnu::noinline]] void multiplyObjects(const ProductCall& call)
+void multiplyMatrices(const ProductCall& call)
 {
     switch (call.order)
     {
@@ -259,18 +213,12 @@ template <class T, bool Transposes1, bool Transposes2>
     case 4: return multiplyOrder<T, 4, Transposes1, Transposes2>(call);
     case 5: return multiplyOrder<T, 5, Transposes1, Transposes2>(call);
     case 6: return multiplyOrder<T, 6, Transposes1, Transposes2>(call);
-    default: return multiplyTiles<T, Transposes1, Transposes2>(call);
+    default: break;
     }
-}
-
-template <class T, bool Transposes1, bool Transposes2>
-void multiplyMatrices(const ProductCall& call)
-{
-    constexpr ptrdiff_t largest = 1024; // of the results worth a block of several
-    if (call.rows * (call.cols * sz<T>) <= largest && isBeyondCaches<T>(call))
-        multiplyInBlocks(call, sz<T>, multiplyObjects<T, Transposes1, Transposes2>);
+    if (call.rows == 8 && call.inner == 8 && call.cols == 8 && isSolid<T>(call, 8))
+        multiplyOrder<T, 8, Transposes1, Transposes2, true, Fixed::None>(call);
     else
-        multiplyObjects<T, Transposes1, Transposes2>(call);
+        multiplyTiles<T, Transposes1, Transposes2>(call);
 }
 
 } // namespace zepm::ZEPM_LEVEL

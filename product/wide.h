@@ -259,7 +259,8 @@ template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid>
 struct Factors
 {
     using Object = Rows<T, Order, Solid>;
-    static constexpr int order = Order;
+    // Orders that no kernel has a body of its own for are here for speed alone.
+    static constexpr bool fromZero = Order > 6;
 
     // Columns First to First + Columns - 1 of the result in registers of up to Width lanes.
     template <int Width, int First, int Columns>
@@ -393,6 +394,7 @@ struct Factors
         {
             each<registers>([&]<int Q>() __attribute__((always_inline)) {
                 V sum = a.template get<Q, 0>() * b.rows[0];
+                if constexpr (fromZero) sum = V{} + sum; // products of -0 give +0
                 each<Order - 1>([&]<int K>() __attribute__((always_inline)) {
                     sum += a.template get<Q, K + 1>() * b.rows[K + 1];
                 });
@@ -512,24 +514,28 @@ template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, Fi
         Found(call.a, call.isList), Found(call.b, call.isList), Found(call.d, call.isList), call, call.count);
 }
 
+template <class T>
+ZEPM_INLINE bool isSolid(const ProductCall& call, int order)
+{
+    const ptrdiff_t rowSize = order * sz<T>;
+    return !call.isList && call.a.stride1 == rowSize && call.b.stride1 == rowSize && call.d.stride1 == rowSize;
+}
+
 template <class T, int Order, bool Transposes1, bool Transposes2>
 ZEPM_INLINE void multiplyOrder(const ProductCall& call)
 {
-    const ptrdiff_t rowSize = Order * sz<T>;
-    const bool isSolid =
-        !call.isList && call.a.stride1 == rowSize && call.b.stride1 == rowSize && call.d.stride1 == rowSize;
+    const bool solid = isSolid<T>(call, Order);
     auto ofFixed = [&]<Fixed fixed>() __attribute__((always_inline))
     {
-        isSolid ? multiplyOrder<T, Order, Transposes1, Transposes2, true, fixed>(call)
-                : multiplyOrder<T, Order, Transposes1, Transposes2, false, fixed>(call);
+        solid ? multiplyOrder<T, Order, Transposes1, Transposes2, true, fixed>(call)
+              : multiplyOrder<T, Order, Transposes1, Transposes2, false, fixed>(call);
     };
     // A fixed first factor is held where that saves shuffles; elsewhere its elements come from memory anyway.
     using Whole = typename Factors<T, Order, Transposes1, Transposes2, true>::template Panels<lanes<T>>;
     constexpr bool holdsFirst = Whole::Own::permutes;
     if (call.b.isFixed) return ofFixed.template operator()<Fixed::Second>();
     if constexpr (holdsFirst)
-        if (call.a.isFixed && isSolid)
-            return multiplyOrder<T, Order, Transposes1, Transposes2, true, Fixed::First>(call);
+        if (call.a.isFixed && solid) return multiplyOrder<T, Order, Transposes1, Transposes2, true, Fixed::First>(call);
     ofFixed.template operator()<Fixed::None>();
 }
 

@@ -76,14 +76,14 @@ protected:
     int number = 0;
 
     // Whether the next case runs, and what a failure says of it.
-    bool takes(Case& next)
+    bool takes(Case& next, bool isSampled = true)
     {
         ++number;
         next.seed = static_cast<unsigned>(settingOf("CHECK_SEED", 1) * 1000003 + number);
         current = next;
         const int only = settingOf("CHECK_CASE", 0);
         if (only > 0) return only == number;
-        const int sample = settingOf("CHECK_SAMPLE", 1);
+        const int sample = isSampled ? settingOf("CHECK_SAMPLE", 1) : 1;
         return number % sample == static_cast<int>(function.name.size()) % sample;
     }
     std::string words(const Case& chosen) const
@@ -293,7 +293,7 @@ TEST_P(Lane, Validation)
     for (Strides strides : {Strides::Gapped, Strides::General})
     {
         Case chosen{function.sizesToTry[3], function.isArray() ? 3 : 1, strides, {}};
-        if (!takes(chosen)) continue;
+        if (!takes(chosen, false)) continue;
         trial.prepare(chosen);
         const std::vector<NamedArg> valid = trial.args();
         ASSERT_EQ(valid.size(), function.parameterCount);
@@ -321,7 +321,7 @@ TEST_P(Lane, Validation)
         }
         ASSERT_EQ(trial.change(), "") << words(chosen);
     }
-    EXPECT_EQ(std::string(steps.begin(), steps.end()).size(), function.order.size());
+    if (settingOf("CHECK_CASE", 0) == 0) EXPECT_EQ(steps.size(), function.order.size());
 }
 
 // What validation leaves out is used as it is given.
