@@ -136,7 +136,7 @@ template <class T, int N, int W, class Source, class Destination>
     read(m, source);
     if (eliminate(m) < N) return false;
     pivots.template writeLanes<IntOf<T>>(m.row);
-    if constexpr (permutesRows)
+    if constexpr (permutesRows<N>)
     {
         Vec<T, W> d[N][N];
         putRows(m.a, m.row, d);
@@ -197,15 +197,15 @@ ZEPM_INLINE void subtractRow(const StridedObject<T, true>& d, int32 i, T multipl
         j += M;
     };
     while (n - j >= lanes<T>) step.template operator()<lanes<T>>();
-    if constexpr (lanes < T >> 8)
+    if constexpr (8 < lanes<T>)
     {
         if (n - j >= 8) step.template operator()<8>();
     }
-    if constexpr (lanes < T >> 4)
+    if constexpr (4 < lanes<T>)
     {
         if (n - j >= 4) step.template operator()<4>();
     }
-    for (; j < n;) step.template operator()<1>();
+    while (n - j >= 1) step.template operator()<1>();
 }
 template <class T, class Destination>
 ZEPM_INLINE void subtractRow(const Destination& d, int32 i, T multiplier, int32 p, int32 first, int32 n)

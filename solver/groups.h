@@ -415,8 +415,9 @@ ZEPM_INLINE void writeMatrix(const Group<Object, W>& group, const Vec<T, W> (&x)
 }
 
 // Whether rows are brought to their places in registers: with an instruction that selects this beats an address for
-// each row of each lane.
-inline constexpr bool permutesRows = registerBytes > 16;
+// each row of each lane at order 3, and not above.
+template <int N>
+inline constexpr bool permutesRows = registerBytes > 16 && N == 3;
 
 // x(row) in each lane, row its own from 0 to N - 1.
 template <int N, class I, class F>

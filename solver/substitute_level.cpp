@@ -41,7 +41,7 @@ template <class T, int N, int W, class Matrix, class Rhs, class Destination>
                                   const Group<Rhs, W>& rhs, const Group<Destination, W>& destination)
 {
     Vec<T, W> f[N][N], y[N];
-    if constexpr (permutesRows && W > 1)
+    if constexpr (permutesRows<N> && W > 1)
     {
         Vec<IntOf<T>, W> row[N];
         pivots.template readLanes<IntOf<T>>(row);

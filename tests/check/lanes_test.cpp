@@ -173,8 +173,8 @@ TEST_P(Lane, Alignment)
 TEST_P(Lane, InPlace)
 {
     if (!function.worksInPlace) return;
-    const Operand& dst =
-        *std::find_if(function.operands.begin(), function.operands.end(), [](const Operand& o) { return o.name == "dst"; });
+    const Operand& dst = *std::find_if(function.operands.begin(), function.operands.end(),
+                                       [](const Operand& o) { return o.name == "dst"; });
     for (const int32 level : levels())
     {
         const AtLevel atLevel(level);

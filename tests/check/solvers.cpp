@@ -93,8 +93,11 @@ void matrices(Problem<T>& problem, std::mt19937& random)
         if (kind == 3) a.at(k, j, j) = random() % 3 ? std::nextafter(limit, T(random() % 2)) : limit;
         if (kind == 4) a.at(k, i / n % n, j) = std::numeric_limits<T>::quiet_NaN();
         if (kind == 5) a.at(k, i / n % n, j) = std::numeric_limits<T>::infinity();
-        if (kind == 6)
-            for (int r = 0; r < n; ++r) a.at(k, r, j) = 0;
+        if (kind == 6) // a column of zeros, or of numbers below the tolerance that differ
+        {
+            const T scale = limit * static_cast<T>(random() % 3) / 4;
+            for (int r = 0; r < n; ++r) a.at(k, r, j) = scale * uniform();
+        }
     };
     Tensor<T> index{a.count, 1, n, std::vector<T>(static_cast<size_t>(a.count * n))}, d = a;
     for (int k = 0; k < a.count; ++k)
