@@ -77,8 +77,8 @@ class Problem
     Status zepmVectors() const
     {
         T buffer[size];
-        return Calls<T>::vectors(a, size * sz, Order * sz, sz, buffer, vectors, size * sz, Order * sz, sz, values, Order,
-                                 n);
+        return Calls<T>::vectors(a, size * sz, Order * sz, sz, buffer, vectors, size * sz, Order * sz, sz, values,
+                                 Order, n);
     }
     Status zepmValues() const
     {
@@ -131,7 +131,8 @@ class Problem
                         residual += s[i * Order + l] * v[l * Order + j];
                         product += v[l * Order + i] * v[l * Order + j];
                     }
-                    isRight = isRight && std::fabs(residual) <= bound * values[k * Order] && std::fabs(product) <= bound;
+                    isRight = isRight && std::fabs(residual) <= bound * values[k * Order];
+                    isRight = isRight && std::fabs(product) <= bound;
                 }
         if (!isRight) std::abort();
     }

@@ -69,7 +69,7 @@ ZEPM_INLINE float64 squareRoot(float64 x) { return __builtin_sqrt(x); }
 ZEPM_INLINE float32 magnitude(float32 x) { return __builtin_fabsf(x); }
 ZEPM_INLINE float64 magnitude(float64 x) { return __builtin_fabs(x); }
 ZEPM_INLINE bool any(bool mask) { return mask; }
-// Calls the body where an index of from, from + 1 ... to - 1 has a value, with that value; not at all outside the range.
+// Calls the body where index has a value of from, from + 1 ... to - 1, with that value.
 ZEPM_INLINE void atIndex(int32, int32 from, int32 to, int32 index, auto body)
 {
     if (index >= from && index < to) body(true, index);

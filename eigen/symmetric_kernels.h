@@ -252,8 +252,8 @@ ZEPM_INLINE Status solveArray(const X& x)
     const auto solveUpTo = [&](int32 first, int32 end) {
         Status status = stsOk;
         for (int32 k = first; k < end && status == stsOk; ++k)
-            status = solveObject<rules, T>(source.object(k), objectOf(v, k), bytes(x.dstValues.p + static_cast<ptrdiff_t>(k) * n),
-                                           x.pBuffer.p, n);
+            status = solveObject<rules, T>(source.object(k), objectOf(v, k),
+                                           bytes(x.dstValues.p + static_cast<ptrdiff_t>(k) * n), x.pBuffer.p, n);
         return status;
     };
     if (n < smallestGroupOrder || n > largestGroupOrder) return solveUpTo(0, x.count);

@@ -138,7 +138,7 @@ ZEPM_INLINE void gather(Lanes<S, R>& x, uintptr_t element, const uintptr_t (&obj
 
 // The same as it is stored object by object.
 template <class T, class S, int R>
-ZEPM_INLINE void spread(T (&to)[Lanes<S, R>::count], const Lanes<S, R>& x)
+ZEPM_INLINE void spread(T* to, const Lanes<S, R>& x)
 {
     constexpr int N = lanes<S>;
     ZEPM_UNROLL

@@ -17,15 +17,19 @@
  * return stsOk, or one of these with nothing written: stsNullPtrErr, stsSizeErr (n below 1), stsCountErr,
  * stsRoiShiftErr, stsStrideErr. Beyond these, eps being 2^-23 in 32f and 2^-52 in 64f:
  *
- *   stsSingularErr    An eigenvalue is (nearly) zero. From n = 3 on the product of the eigenvalues is within eps of zero
- *                     (a product that may hold factors from before the values had settled); the values of the object are
- *                     written, not in order. At n = 2 the determinant is within eps of zero; nothing of the object is
- *                     written. Never at n = 1.
+ *   stsSingularErr    An eigenvalue is (nearly) zero. From n = 3 on the product of the eigenvalues is within eps of
+ *                     zero (a product that may hold factors from before the values had settled); the values of the
+ *                     object are written, not in order. At n = 2 the determinant is within eps of zero; nothing of the
+ *                     object is written. Never at n = 1.
  *   stsEigenFailErr   30 sweeps did not settle an eigenvalue; what is written of the object is of no use.
  *
- * All tolerances are absolute: matrices should be scaled so that their elements are near 1. An array ends at the first
- * object that fails; those before it are complete, those behind it are untouched. Large arrays are shared among threads:
- * a failure then ends its thread's share alone, the first one reported stands, and pBuffer is not used.
+ * All tolerances are absolute: matrices should be scaled so that their elements are near 1. An iteration that reaches
+ * rotations of a length within eps, or steps within eps before its element is zero, loses accuracy without a report;
+ * this is rare but where eigenvalues are repeated.
+ *
+ * An array ends at the first object that fails; those before it are complete, those behind it are untouched. Large
+ * arrays are shared among threads: a failure then ends its thread's share alone, the first one reported stands, and
+ * pBuffer is not used.
  */
 #ifndef ZEPM_EIGEN_H
 #define ZEPM_EIGEN_H
@@ -62,8 +66,8 @@ Status zepmEigenValuesSym_ma_64f_L(const float64* const* ppSrc, int32 srcRoiShif
 Status zepmEigenValuesSym_ma_64f_P(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride0, float64* pBuffer,
                                    float64* pDstValues, int32 widthHeight, int32 count);
 
-/* The eigenvalues and eigenvectors of a symmetric matrix: s = v diag(w) transposed(v). With stsSingularErr from n = 3 on
- * values and vectors are complete and in order, but for zepmEigenValuesVectorsSym_m_32f with a stride2 other than 4:
+/* The eigenvalues and eigenvectors of a symmetric matrix: s = v diag(w) transposed(v). With stsSingularErr from n = 3
+ * on values and vectors are complete and in order, but for zepmEigenValuesVectorsSym_m_32f with a stride2 other than 4:
  * there they are complete, not in order. */
 Status zepmEigenValuesVectorsSym_m_32f(const float32* pSrc, int32 srcStride1, int32 srcStride2, float32* pBuffer,
                                        float32* pDstVectors, int32 dstStride1, int32 dstStride2, float32* pDstValues,

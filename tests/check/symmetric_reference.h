@@ -30,8 +30,8 @@ struct Eigenproblem
     std::vector<T> values;
     const R eps = R(sizeof(T) == 4 ? 0x1p-23 : 0x1p-52);
     T prod = 1;
-    // Whether the definition changed the matrix by more than its rotations and reflectors do: where it does not reflect a
-    // column, ends a sweep early or leaves out a closing update. The decomposition is then that of another matrix.
+    // Whether the definition changed the matrix by more than its rotations and reflectors do: where it does not reflect
+    // a column, ends a sweep early or leaves out a closing update. The decomposition is then that of another matrix.
     bool isDisturbed = false;
 
     Eigenproblem(const Kernel& particular, int order, auto element) : kernel(particular), n(order), values(order)
