@@ -14,11 +14,7 @@
 namespace
 {
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr int matricesPerOrder = 2000;
-#else
-constexpr int matricesPerOrder = 100000;
-#endif
+constexpr int matricesPerOrder = MATRICES;
 
 template <class T>
 struct Calls;
