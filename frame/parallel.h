@@ -90,8 +90,9 @@ Status shareObjects(const X& x, Kernel<X> kernel)
     if (numThreads <= 1 || x.count < numThreads) return kernel(x);
     if constexpr (NeedsScratch<X>)
     {
-        const size_t bytes = static_cast<size_t>(numThreads) * x.scratchPerThread();
-        char* const scratch = static_cast<char*>(omp_alloc(bytes, omp_default_mem_alloc));
+        size_t bytes = 0;
+        const bool fits = !__builtin_mul_overflow(static_cast<size_t>(numThreads), x.scratchPerThread(), &bytes);
+        char* const scratch = fits ? static_cast<char*>(omp_alloc(bytes, omp_default_mem_alloc)) : nullptr;
         if (!scratch) return kernel(x); // with the caller's own buffer
         const Status status = forkShares(x, kernel, numThreads, scratch);
         omp_free(scratch, omp_default_mem_alloc);
