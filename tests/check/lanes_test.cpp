@@ -321,7 +321,8 @@ TEST_P(Lane, Validation)
         }
         ASSERT_EQ(trial.change(), "") << words(chosen);
     }
-    if (settingOf("CHECK_CASE", 0) == 0) EXPECT_EQ(steps.size(), function.order.size());
+    if (settingOf("CHECK_CASE", 0) > 0) return;
+    EXPECT_EQ(steps.size(), function.order.size());
 }
 
 // What validation leaves out is used as it is given.
