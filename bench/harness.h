@@ -116,13 +116,15 @@ public:
     // What one call reads and writes, for the bandwidth.
     void moves(double bytes) { bytesMoved = bytes; }
 
+    // show, where what a call leaves is a format of its own, turns it into the result before that is compared; it is not
+    // timed.
     template <class Call>
-    void add(const std::string& contender, Call call) const
+    void add(const std::string& contender, Call call, std::function<void()> show = [] {}) const
     {
         auto isChecked = std::make_shared<bool>(false);
         benchmark::RegisterBenchmark((name + '/' + contender).c_str(),
-                                     [problem = *this, call, isChecked](benchmark::State& state) {
-                                         if (!*isChecked && !problem.agrees(call))
+                                     [problem = *this, call, show, isChecked](benchmark::State& state) {
+                                         if (!*isChecked && !problem.agrees(call, show))
                                          {
                                              anyFailed() = true;
                                              state.SkipWithError("wrong status or result");
@@ -162,7 +164,7 @@ private:
     double bytesMoved = 0;
 
     template <class Call>
-    bool agrees(const Call& call) const
+    bool agrees(const Call& call, const std::function<void()>& show) const
     {
         T* const expected = Operand<T>::at(Slot::Expected, elements);
         const size_t bytes = elements * sizeof(T);
@@ -171,6 +173,7 @@ private:
         std::memcpy(expected, result, bytes);
         std::memset(result, 0x5a, bytes);
         if (call() != stsOk) return false;
+        show();
         if (tolerance == 0) return std::memcmp(expected, result, bytes) == 0;
         double largest = 0, difference = 0;
         for (size_t k = 0; k < elements; ++k)

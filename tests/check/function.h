@@ -7,6 +7,7 @@
 #include "zepm.h"
 
 #include <functional>
+#include <random>
 #include <string>
 #include <type_traits>
 #include <variant>
@@ -22,12 +23,23 @@ enum class Layout
     P
 };
 
+// How an operand lies in memory: in the layout of the function, or, whatever the layout, without gaps behind a pointer of
+// its own: elements, row numbers (int32), or room whose contents after the call do not matter.
+enum class Storage
+{
+    Laid,
+    Dense,
+    Index,
+    Scratch
+};
+
 struct Operand
 {
     std::string name; // as in the argument names: src1, dst, val
     char letter;      // v, m, t or c
     bool isArray;
     bool isDst;
+    Storage storage = Storage::Laid;
 };
 
 // The elements of one operand by value, rows and columns as stored.
@@ -50,14 +62,23 @@ private:
     }
 };
 
-// One call by value: the operands in the order of the arguments, destinations last.
+// One call by value: the operands in the order of the arguments. A destination holds what stands there before the call,
+// and what a failure leaves alone stays; row numbers are values like any other here.
 template <class T>
 struct Problem
 {
     std::vector<int> sizes;
     int count = 1;
     std::vector<Tensor<T>> operands;
+    Status status = stsOk; // what the call returns
+    bool mayFail = false;  // whether the values may hold an object that fails
+    bool isPacked = false; // every stride2 is the element size
 };
+
+template <class T>
+using Reference = std::function<void(Problem<T>&)>;
+template <class T>
+using Values = std::function<void(Problem<T>&, std::mt19937&)>;
 
 // An argument as it is passed.
 using Arg = std::variant<const void*, int32, double>;
@@ -102,15 +123,18 @@ struct Function
     std::vector<std::string> sizeNames;
     std::vector<std::vector<int>> sizesToTry;
     std::function<std::pair<int, int>(const Operand&, const std::vector<int>&)> shape; // rows and columns as stored
+    std::function<bool(const std::vector<int>&)> sizesMatch;                           // where validation has a step M
 
     std::string order;                 // steps of validation: N C Z M T R
     std::vector<std::string> untested; // strides and shifts that validation leaves out, by argument name
     Limits limits;
     std::function<int32(const std::vector<int>&, int32)> estimate; // of the sizes and the count
 
-    std::variant<std::monostate, std::function<void(Problem<float32>&)>, std::function<void(Problem<float64>&)>>
-        reference;
+    std::variant<std::monostate, Reference<float32>, Reference<float64>> reference;
+    // Instead of values over many orders of magnitude in the sources, where the family needs others.
+    std::variant<std::monostate, Values<float32>, Values<float64>> values;
     bool worksInPlace = false; // the destination may be any source of its shape
+    bool nansAlike = false;    // sums of several terms: which of two NaNs survives is not fixed
 
     bool isArray() const
     {

@@ -21,7 +21,7 @@ ptrdiff_t farStride(ptrdiff_t sz) { return std::numeric_limits<int32>::max() / s
 Image::Image(const Operand& operand_, Layout layout_, size_t elementSize, int number_)
     : operand(operand_),
       layout(layout_),
-      sz(static_cast<ptrdiff_t>(elementSize)),
+      sz(operand_.storage == Storage::Index ? 4 : static_cast<ptrdiff_t>(elementSize)),
       number(number_),
       arena(std::make_shared<Arena>(arenaSize)),
       tableArena(std::make_shared<Arena>(tableArenaSize))
@@ -77,7 +77,7 @@ void Image::chooseStrides(Strides strides)
         break;
     case Strides::FarElements:
         stride2 = farStride(sz) - n * sz;
-        stride0 = (rows - 1) * stride1 + (5 + n) * sz;
+        stride0 = rows * stride1 + (2 + n) * sz;
         break;
     }
 }
@@ -110,7 +110,7 @@ void Image::place(int rows_, int cols_, int count_, Strides strides, Placement p
     cols = cols_;
     count = operand.isArray ? count_ : 1;
     if (strides == Strides::OneGeneral && number == (cols + count_) % 3) strides = Strides::General;
-    chooseStrides(strides);
+    chooseStrides(isLaid() ? strides : Strides::Dense);
     if (isTable() && strides == Strides::FarElements) stride0 = (5 + number) * sz;
     if (isTable() && strides == Strides::OneGeneral) stride0 = (4 + number) * sz;
     if (isTable() && strides == Strides::General) stride0 = (2 + number) * sz;
@@ -166,6 +166,7 @@ std::vector<NamedArg> Image::args() const
     {
         list.push_back({NamedArg::Pointer, "p" + upper, static_cast<const void*>(base)});
     }
+    if (!isLaid()) return list;
     if (operand.isArray && !isList()) stride(0, stride0);
     if (isMatrix() && !isTable()) stride(1, stride1);
     if (operand.letter != 'c' && !isTable()) stride(2, stride2);

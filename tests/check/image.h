@@ -66,6 +66,7 @@ public:
     // The same place as another operand of the same shape and strides.
     void placeAt(const Image& other);
 
+    size_t elementSize() const { return static_cast<size_t>(sz); }
     char* element(int k, int i, int j) const { return base + offset(k, i, j); }
     std::vector<NamedArg> args() const;
 
@@ -82,8 +83,9 @@ public:
     const Operand operand;
 
 private:
-    bool isTable() const { return layout == Layout::P && operand.letter != 'c'; }
-    bool isList() const { return layout == Layout::L && operand.isArray; }
+    bool isLaid() const { return operand.storage == Storage::Laid; }
+    bool isTable() const { return layout == Layout::P && operand.letter != 'c' && isLaid(); }
+    bool isList() const { return layout == Layout::L && operand.isArray && isLaid(); }
     bool isMatrix() const { return operand.letter == 'm' || operand.letter == 't'; }
     ptrdiff_t offset(int k, int i, int j) const;
     void chooseStrides(Strides strides);

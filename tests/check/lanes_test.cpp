@@ -101,10 +101,10 @@ protected:
         if (!takes(chosen)) return true;
         trial.prepare(chosen);
         const Status status = trial.call(Trial::values(trial.args()));
-        EXPECT_EQ(status, stsOk) << words(chosen);
+        EXPECT_EQ(status, trial.expectedStatus()) << words(chosen);
         const std::string difference = trial.difference();
         EXPECT_EQ(difference, "") << words(chosen);
-        return status == stsOk && difference.empty();
+        return status == trial.expectedStatus() && difference.empty();
     }
 };
 
@@ -151,7 +151,7 @@ TEST_P(Lane, Values)
             for (const int count : counts)
                 for (const Strides strides : nearStrides)
                     for (const bool atEnd : {true, false})
-                        if (!passes({sizes, count, strides, {atEnd, 0}})) return;
+                        if (!passes({sizes, count, strides, {atEnd, 0}, 1, -1, true})) return;
         }
     }
 }
@@ -173,15 +173,16 @@ TEST_P(Lane, Alignment)
 TEST_P(Lane, InPlace)
 {
     if (!function.worksInPlace) return;
-    const Operand& dst = function.operands.back();
+    const Operand& dst =
+        *std::find_if(function.operands.begin(), function.operands.end(), [](const Operand& o) { return o.name == "dst"; });
     for (const int32 level : levels())
     {
         const AtLevel atLevel(level);
         for (const std::vector<int>& sizes : function.sizesToTry)
-            for (size_t n = 0; n + 1 < function.operands.size(); ++n)
+            for (size_t n = 0; n < function.operands.size(); ++n)
             {
                 const Operand& source = function.operands[n];
-                if (source.letter != dst.letter || source.isArray != dst.isArray) continue;
+                if (source.isDst || source.storage != Storage::Laid || source.letter != dst.letter || source.isArray != dst.isArray) continue;
                 for (const Strides strides : nearStrides)
                     if (!passes({sizes, function.isArray() ? 37 : 1, strides, {}, 1, static_cast<int>(n)})) return;
             }
@@ -199,7 +200,10 @@ TEST_P(ArrayLane, FarApart)
             Case chosen{function.sizesToTry[3], 4, strides, {}};
             // Few objects with work enough for the driver.
             if (strides != Strides::FarElements && function.hasDriver())
-                chosen.sizes.assign(chosen.sizes.size(), function.sizeNames.size() == 1 ? 1300 : 40);
+                while (!chosen.sizes.empty() && chosen.sizes[0] < 2000 &&
+                       function.estimate(chosen.sizes, chosen.count) <
+                           std::max(function.limits.packed, function.limits.general))
+                    for (int& size : chosen.sizes) ++size;
             if (!takes(chosen)) continue;
             trial.prepare(chosen);
             EXPECT_EQ(trial.call(Trial::values(trial.args())), stsOk) << words(chosen);
@@ -207,18 +211,20 @@ TEST_P(ArrayLane, FarApart)
         }
 }
 
-// Dense rows beyond the largest cache, whose results are stored past the caches.
+// Dense objects beyond the largest cache, whose results are stored past the caches.
 TEST_P(LongLane, BeyondTheCaches)
 {
     int32 cacheSize = 0;
     ASSERT_EQ(zepGetMaxCacheSizeB(&cacheSize), stsOk);
     if (cacheSize > 1 << 28) return; // too much memory for a test
     const int32 elements = cacheSize / (function.isFloat32 ? 4 : 8) / 2 + 100000;
+    const bool isMatrix = function.operands[0].letter != 'v';
+    const std::vector<int> sizes = isMatrix ? function.sizesToTry[3] : std::vector<int>{7};
     for (const int32 level : levels())
     {
         const AtLevel atLevel(level);
         for (const bool atEnd : {true, false})
-            if (!passes({{7}, elements / 7, Strides::Dense, {atEnd, 0}})) return;
+            if (!passes({sizes, elements / (isMatrix ? 9 : 7), Strides::Dense, {atEnd, 0}})) return;
     }
 }
 
@@ -235,6 +241,22 @@ struct Violation
     Arg value;
 };
 
+// Whether the sizes still match with the arguments in changes raised by so much.
+bool sizesMatch(const Function& function, const std::vector<NamedArg>& args,
+                const std::vector<std::pair<size_t, int32>>& changes)
+{
+    std::vector<int> sizes;
+    for (const std::string& name : function.sizeNames)
+        for (size_t n = 0; n < args.size(); ++n)
+        {
+            if (args[n].name != name) continue;
+            sizes.push_back(std::get<int32>(args[n].value));
+            for (const auto& [arg, by] : changes)
+                if (arg == n) sizes.back() += by;
+        }
+    return function.sizesMatch(sizes);
+}
+
 std::vector<Violation> violationsOf(const Function& function, const std::vector<NamedArg>& args)
 {
     std::vector<Violation> list;
@@ -249,7 +271,11 @@ std::vector<Violation> violationsOf(const Function& function, const std::vector<
         {
         case NamedArg::Pointer: list.push_back({'N', stsNullPtrErr, n, static_cast<const void*>(nullptr)}); break;
         case NamedArg::Count: add('C', stsCountErr, {0, -1, INT32_MIN}); break;
-        case NamedArg::Size: add('Z', stsSizeErr, {0, -3, INT32_MIN}); break;
+        case NamedArg::Size:
+            add('Z', stsSizeErr, {0, -3, INT32_MIN});
+            if (function.sizesMatch && !sizesMatch(function, args, {{n, 1}}))
+                add('M', stsSizeMatchErr, {std::get<int32>(args[n].value) + 1});
+            break;
         case NamedArg::Stride: add('T', stsStrideErr, {0, -sz, sz + 1, sz / 2, 2 * sz - 1, INT32_MIN}); break;
         case NamedArg::Shift: add('R', stsRoiShiftErr, {-sz, 1, sz + sz / 2, INT32_MIN}); break;
         case NamedArg::Value: break;
@@ -280,6 +306,9 @@ TEST_P(Lane, Validation)
             for (const Violation& second : violations)
             {
                 if (first.arg == second.arg && &first != &second) continue;
+                if (first.step == 'M' && second.step == 'M' && &first != &second &&
+                    sizesMatch(function, valid, {{first.arg, 1}, {second.arg, 1}}))
+                    continue;
                 std::vector<Arg> args = Trial::values(valid);
                 args[first.arg] = first.value;
                 args[second.arg] = second.value;
@@ -410,7 +439,10 @@ TEST_P(DriverLane, ThreadsAndLevels)
                     ASSERT_EQ(trial.call(Trial::values(trial.args())), stsOk) << words(chosen);
                     ASSERT_EQ(trial.difference(), "") << words(chosen);
                     if (first.empty()) first = trial.outputs();
-                    ASSERT_EQ(trial.outputs(), first) << words(chosen);
+                    if (!function.nansAlike)
+                    {
+                        ASSERT_EQ(trial.outputs(), first) << words(chosen);
+                    }
                 }
         }
 }
@@ -422,7 +454,7 @@ TEST_P(DriverLane, FewObjects)
     for (const int count : {1, 3, 4, 5, 10})
     {
         std::vector<int> sizes(function.sizeNames.size(), 1);
-        while (function.estimate(sizes, count) < function.limits.packed && sizes[0] < 2000)
+        while (!sizes.empty() && function.estimate(sizes, count) < function.limits.packed && sizes[0] < 2000)
             for (int& size : sizes) ++size;
         if (!passes({sizes, count, Strides::Dense, {}})) return;
     }
@@ -450,7 +482,8 @@ INSTANTIATE_TEST_SUITE_P(All, ArrayLane,
 INSTANTIATE_TEST_SUITE_P(All, DriverLane,
                          testing::ValuesIn(functionsThat([](const Function& f) { return f.hasDriver(); })), nameOf);
 INSTANTIATE_TEST_SUITE_P(All, LongLane, testing::ValuesIn(functionsThat([](const Function& f) {
-                             return f.name == "zepmAdd_vava_32f" || f.name == "zepmSub_cva_64f";
+                             return f.name == "zepmAdd_vava_32f" || f.name == "zepmSub_cva_64f" ||
+                                    f.name == "zepmMul_mama_32f" || f.name == "zepmMul_tam_64f";
                          })),
                          nameOf);
 INSTANTIATE_TEST_SUITE_P(All, NarrowLane,
@@ -462,7 +495,8 @@ INSTANTIATE_TEST_SUITE_P(All, NarrowLane,
 // Every function of the headers has its row.
 TEST(Table, Complete)
 {
-    std::set<std::string> declared, known;
+    // Of the fixed-size functions the one with a driver; the others have tests of their own.
+    std::set<std::string> declared = {"zepmAffineTransform3DH_mva_32f"}, known;
     for (const char* const header : {"zepm_elementwise.h", "zepm_product.h", "zepm_solver.h", "zepm_eigen.h"})
     {
         std::ifstream file(std::string(CHECK_INCLUDE_DIR "/") + header);

@@ -1,5 +1,7 @@
 #include "tests/check/run.h"
 
+#include "frame/operands.h"
+
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -54,6 +56,7 @@ std::string Case::describe() const
     else
         out << ", " << placement.offset << " bytes behind the page in front";
     if (inPlace >= 0) out << ", in place of source " << inPlace + 1;
+    if (mayFail) out << ", objects may fail";
     return out.str();
 }
 
@@ -63,37 +66,82 @@ Trial::Trial(const Function& function_) : function(function_)
         images.emplace_back(operand, function.layout, function.isFloat32 ? 4 : 8, static_cast<int>(images.size()));
 }
 
+namespace
+{
+
+// One element of an operand in memory; row numbers are int32 there.
+template <class T>
+void write(const Operand& operand, char* p, T x)
+{
+    if (operand.storage == Storage::Index)
+    {
+        const auto number = static_cast<int32>(x);
+        std::memcpy(p, &number, sizeof number);
+    }
+    else
+    {
+        std::memcpy(p, &x, sizeof x);
+    }
+}
+
+} // namespace
+
 template <class T>
 void Trial::fill(const Case& chosen)
 {
     std::mt19937 random(chosen.seed);
-    Problem<T> problem{chosen.sizes, chosen.count, {}};
-    for (size_t n = 0; n < images.size(); ++n)
-    {
-        const auto [rows, cols] = function.shape(function.operands[n], chosen.sizes);
-        Tensor<T>& tensor = problem.operands.emplace_back();
-        tensor = {function.operands[n].isArray ? chosen.count : 1, rows, cols, {}};
-        tensor.elements.resize(static_cast<size_t>(tensor.count) * static_cast<size_t>(rows * cols));
-        if (function.operands[n].isDst) continue;
-        for (T& x : tensor.elements) x = element<T>(random, n == 0);
-        if (function.operands[n].letter == 'c' && !function.operands[n].isArray)
+    Problem<T> problem{chosen.sizes, chosen.count, {}, stsOk, chosen.mayFail, isPacked()};
+    auto forEach = [&](auto visit) {
+        for (size_t n = 0; n < images.size(); ++n)
         {
-            constant = static_cast<double>(tensor.elements[0]);
-            continue;
+            Tensor<T>& tensor = problem.operands[n];
+            for (int k = 0; k < tensor.count; ++k)
+                for (int i = 0; i < tensor.rows; ++i)
+                    for (int j = 0; j < tensor.cols; ++j) visit(n, images[n].element(k, i, j), tensor.at(k, i, j));
         }
-        for (int k = 0; k < tensor.count; ++k)
-            for (int i = 0; i < rows; ++i)
-                for (int j = 0; j < cols; ++j) std::memcpy(images[n].element(k, i, j), &tensor.at(k, i, j), sizeof(T));
-    }
-    std::get<std::function<void(Problem<T>&)>>(function.reference)(problem);
-    expected.clear();
+    };
     for (size_t n = 0; n < images.size(); ++n)
     {
-        expected.emplace_back();
-        if (!function.operands[n].isDst) continue;
-        const char* const p = reinterpret_cast<const char*>(problem.operands[n].elements.data());
-        expected.back().assign(p, p + problem.operands[n].elements.size() * sizeof(T));
+        const Operand& operand = function.operands[n];
+        const auto [rows, cols] = function.shape(operand, chosen.sizes);
+        Tensor<T>& tensor = problem.operands.emplace_back();
+        tensor = {operand.isArray ? chosen.count : 1, rows, cols, {}};
+        tensor.elements.resize(static_cast<size_t>(tensor.count) * static_cast<size_t>(rows * cols));
+        if (!operand.isDst && operand.storage != Storage::Scratch)
+            for (T& x : tensor.elements) x = element<T>(random, n == 0);
     }
+    if (const auto* const values = std::get_if<Values<T>>(&function.values)) (*values)(problem, random);
+    forEach([&](size_t n, char* p, T& x) {
+        const Operand& operand = function.operands[n];
+        if (operand.letter == 'c' && !operand.isArray)
+            constant = static_cast<double>(x);
+        else if (!operand.isDst && operand.storage != Storage::Scratch)
+            write(operand, p, x);
+    });
+    // A row number that is not written keeps its bytes, which as a value they would not.
+    forEach([&](size_t n, char* p, T& x) {
+        if (function.operands[n].isDst && !isFar)
+        {
+            if (function.operands[n].storage == Storage::Index)
+                x = std::numeric_limits<T>::quiet_NaN();
+            else
+                std::memcpy(&x, p, sizeof x);
+        }
+    });
+    std::get<Reference<T>>(function.reference)(problem);
+    wantedStatus = problem.status;
+    expected.assign(images.size(), {});
+    forEach([&](size_t n, char* p, T& x) {
+        const Operand& operand = function.operands[n];
+        if (!operand.isDst) return;
+        std::vector<char>& bytes = expected[n];
+        bytes.resize(bytes.size() + images[n].elementSize());
+        char* const to = bytes.data() + bytes.size() - images[n].elementSize();
+        if (operand.storage == Storage::Index && std::isnan(x))
+            std::memcpy(to, p, images[n].elementSize());
+        else
+            write(operand, to, x);
+    });
 }
 
 void Trial::prepare(const Case& chosen)
@@ -106,7 +154,7 @@ void Trial::prepare(const Case& chosen)
         const auto [rows, cols] = function.shape(function.operands[n], chosen.sizes);
         Placement placement = chosen.placement;
         if (!placement.atEnd && placement.offset > 0) placement.offset = (placement.offset + 5 * n) % 16;
-        if (function.operands[n].isDst && chosen.inPlace >= 0)
+        if (chosen.inPlace >= 0 && function.operands[n].name == "dst")
             images[n].placeAt(images[static_cast<size_t>(chosen.inPlace)]);
         else
             images[n].place(rows, cols, chosen.count, chosen.strides, placement);
@@ -146,6 +194,16 @@ std::vector<NamedArg> Trial::args() const
     return list;
 }
 
+bool Trial::isPacked() const
+{
+    for (const Image& image : images)
+        for (const NamedArg& arg : image.args())
+            if (arg.name == image.operand.name + "Stride2" &&
+                static_cast<size_t>(std::get<int32>(arg.value)) != image.elementSize())
+                return false;
+    return true;
+}
+
 std::vector<Arg> Trial::values(const std::vector<NamedArg>& args)
 {
     std::vector<Arg> list;
@@ -174,14 +232,25 @@ std::string Trial::differenceFrom(const std::vector<std::vector<char>>& wanted) 
     return "";
 }
 
+namespace
+{
+
+bool isNan(const char* p, size_t sz)
+{
+    if (sz == sizeof(float32)) return std::isnan(zepm::load<float32>(p));
+    return std::isnan(zepm::load<float64>(p));
+}
+
+} // namespace
+
 // Calls visit with the number of the operand, the object, row and column, and the expected bytes of each result.
 template <class Visit>
 void Trial::forEachResult(Visit visit) const
 {
-    const size_t sz = function.isFloat32 ? 4 : 8;
     for (size_t n = 0; n < images.size(); ++n)
     {
         if (!function.operands[n].isDst) continue;
+        const size_t sz = images[n].elementSize();
         const auto [rows, cols] = function.shape(function.operands[n], sizes);
         const char* from = expected[n].data();
         for (int k = 0; k < (function.operands[n].isArray ? count : 1); ++k)
@@ -195,10 +264,20 @@ std::string Trial::difference() const
     std::vector<std::vector<char>> wanted = before;
     forEachResult([&](size_t n, int k, int i, int j, const char* from, size_t sz) {
         const char* const p = images[n].element(k, i, j);
+        const bool isAlike =
+            function.nansAlike && function.operands[n].storage != Storage::Index && isNan(p, sz) && isNan(from, sz);
         for (size_t image = 0; image < images.size(); ++image) // in place, a source shows the results as well
             if (image == n || images[image].bytesBegin() == images[n].bytesBegin())
-                std::memcpy(wanted[image].data() + images[image].spanOffset(p), from, sz);
+                std::memcpy(wanted[image].data() + images[image].spanOffset(p), isAlike ? p : from, sz);
     });
+    for (size_t n = 0; n < images.size(); ++n)
+    {
+        if (function.operands[n].storage != Storage::Scratch) continue;
+        const auto [rows, cols] = function.shape(function.operands[n], sizes);
+        const char* const p = images[n].element(0, 0, 0);
+        std::memcpy(wanted[n].data() + images[n].spanOffset(p), p,
+                    static_cast<size_t>(rows * cols) * images[n].elementSize());
+    }
     return differenceFrom(wanted);
 }
 
@@ -209,7 +288,8 @@ std::string Trial::differenceOfElements() const
     std::string difference;
     forEachResult([&](size_t n, int k, int i, int j, const char* from, size_t sz) {
         const char* const p = images[n].element(k, i, j);
-        if (difference.empty() && std::memcmp(p, from, sz) != 0)
+        const bool isAlike = function.nansAlike && isNan(p, sz) && isNan(from, sz);
+        if (difference.empty() && !isAlike && std::memcmp(p, from, sz) != 0)
             difference = images[n].operand.name + ": object " + std::to_string(k) + " element (" + std::to_string(i) +
                          ", " + std::to_string(j) + ") differs";
     });

@@ -17,7 +17,8 @@ struct Case
     Strides strides = Strides::Dense;
     Placement placement;
     unsigned seed = 1;
-    int inPlace = -1; // the source that the destination is, or -1
+    int inPlace = -1;     // the source that the destination is, or -1
+    bool mayFail = false; // an object may fail, which ends the call
 
     std::string describe() const;
 };
@@ -36,9 +37,11 @@ public:
     // Calls the function on the prepared operands. The gaps are out of bounds during the call.
     Status call(const std::vector<Arg>& args) const;
 
-    // After a call that must succeed: an empty string, or what is wrong.
+    // What the call must return.
+    Status expectedStatus() const { return wantedStatus; }
+    // After a call past validation: an empty string, or what is wrong.
     std::string difference() const;
-    // After a call that must fail: the same, nothing written.
+    // After a call that validation must refuse: the same, nothing written.
     std::string change() const;
     // All bytes of the destinations, for comparison with another run.
     std::vector<std::vector<char>> outputs() const;
@@ -48,6 +51,7 @@ public:
     const Function& function;
 
 private:
+    bool isPacked() const;
     template <class T>
     void fill(const Case& chosen);
     template <class Visit>
@@ -60,6 +64,7 @@ private:
     int32 count = 1;
     std::vector<int> sizes;
     double constant = 0; // the value passed for a c operand
+    Status wantedStatus = stsOk;
     bool isFar = false;
 };
 

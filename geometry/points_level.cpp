@@ -1,0 +1,218 @@
+// Formulas over arrays of points: tiles of as many points as a register has lanes, then of four, then single ones. Each
+// point sees the operations of the formula in their order, whatever it goes with.
+#include "geometry/points.h"
+#include "geometry/tile.h"
+
+namespace zepm::ZEPM_LEVEL
+{
+
+namespace
+{
+
+using Source = PointArray<const float32>;
+using Destination = PointArray<float32>;
+
+ZEPM_INLINE bool allOf(int isRegular) { return isRegular; }
+ZEPM_INLINE bool allOf(Vec<int32, 4> isRegular) { return _mm_movemask_ps(reinterpret_cast<Lanes<4>>(isRegular)) == 15; }
+template <class Mask>
+ZEPM_INLINE bool allOf(Mask isRegular)
+{
+    constexpr int N = sizeof(Mask) / 4;
+    using Half = Vec<int32, N / 2>;
+    const auto lanes = reinterpret_cast<Lanes<N>>(isRegular);
+    return allOf(reinterpret_cast<Half>(halfOf<N, 0>(lanes)) & reinterpret_cast<Half>(halfOf<N, 1>(lanes)));
+}
+
+// The formula on points in registers; whether it succeeded on all.
+template <class Formula, class V>
+ZEPM_INLINE bool applied(const Formula& formula, const V (&p)[Formula::in], V (&d)[Formula::out])
+{
+    if constexpr (std::is_void_v<decltype(formula.apply(p, d))>)
+    {
+        formula.apply(p, d);
+        return true;
+    }
+    else
+    {
+        return allOf(formula.apply(p, d));
+    }
+}
+
+template <class Formula>
+[[gnu::noinline]] bool onePerStep(const Formula& given, Source src, Destination dst, ptrdiff_t first, ptrdiff_t count)
+{
+    const Formula formula = given; // no store can change it
+    bool ok = true;
+    for (ptrdiff_t k = first; k < count; ++k)
+    {
+        float32 p[Formula::in], d[Formula::out];
+        for (int j = 0; j < Formula::in; ++j) p[j] = load<float32>(src.at(k, j));
+        ok &= applied(formula, p, d);
+        for (int j = 0; j < Formula::out; ++j) store<float32>(dst.at(k, j), d[j]);
+    }
+    return ok;
+}
+
+template <class Formula, class From, class To>
+[[gnu::noinline]] bool tiles(const Formula& given, Source src, Destination dst, From from, To to, ptrdiff_t count)
+{
+    const Formula formula = given;
+    bool ok = true;
+    ptrdiff_t k = 0;
+    auto whole = [&]<int N>(std::integral_constant<int, N>) __attribute__((always_inline))
+    {
+        for (; k + N <= count; k += N)
+        {
+            Lanes<N> p[Formula::in], d[Formula::out];
+            from.template load<Formula::in, N>(src.at(k), p);
+            ok &= applied(formula, p, d);
+            to.template store<Formula::out, N>(dst.at(k), d);
+        }
+    };
+    whole(std::integral_constant<int, lanes<float32>>{});
+    if constexpr (lanes<float32> > 4) whole(std::integral_constant<int, 4>{});
+    return k < count ? onePerStep(formula, src, dst, k, count) && ok : ok;
+}
+
+// ---- Results of four elements ---------------------------------------------------------------------------------------
+
+// Points of Size elements side by side, one in each group. Reads a register in full.
+template <int N>
+ZEPM_INLINE Lanes<N> loadDense3(const char* p)
+{
+    struct Place
+    {
+        constexpr int operator()(int lane) const { return lane / 4 * 3 + lane % 4 - lane % 4 / 3; }
+    };
+    return permute<float32, N>(loadVec<float32, N>(p), Place{});
+}
+
+// A result is a group, and so is each row of the matrix: no transposition. The steps are strides that are known, or 0:
+// 12 of three elements without gaps, 16 of records.
+template <int SrcStep, int DstStep, class Formula>
+[[gnu::noinline]] bool rowwise(const Through<Formula>& formula, Source src, Destination dst, ptrdiff_t count)
+{
+    constexpr int N = lanes<float32>, groups = N / 4, in = Formula::in;
+    constexpr int atOnce = 4 * groups, further = SrcStep == 12 ? (groups + 2) / 3 : 0; // points, points read in part
+    Lanes<N> rows[4];
+    ZEPM_UNROLL
+    for (int i = 0; i < 4; ++i) rows[i] = repeatedGroup<N>(formula.e + 4 * i);
+    ptrdiff_t k = 0;
+    for (; k + atOnce + further <= count; k += atOnce)
+    {
+        ZEPM_UNROLL
+        for (int step = 0; step < atOnce; step += groups)
+        {
+            const char* const from = src.at(k) + step * (SrcStep ? SrcStep : src.stride);
+            char* const to = dst.at(k) + step * (DstStep ? DstStep : dst.stride);
+            Lanes<N> points, p[in];
+            if constexpr (SrcStep == 12)
+                points = loadDense3<N>(from);
+            else if constexpr (SrcStep == 16)
+                points = loadRecords<in, N>(from);
+            else
+                points = loadPoints<in, N>(from, src.stride);
+            p[0] = spread<N, 0>(points);
+            p[1] = spread<N, 1>(points);
+            if constexpr (in > 2) p[2] = spread<N, 2>(points);
+            if constexpr (in > 3) p[3] = spread<N, 3>(points);
+            const Lanes<N> d = Formula::element(rows, p);
+            if constexpr (DstStep == 16)
+                storeRecords<4, N>(to, d);
+            else
+                storePoints<4, N>(to, dst.stride, d);
+        }
+    }
+    return onePerStep(formula, src, dst, k, count);
+}
+
+// ---- Overlap --------------------------------------------------------------------------------------------------------
+
+ZEPM_INLINE ptrdiff_t magnitude(ptrdiff_t x) { return x < 0 ? -x : x; }
+
+// The bytes from the lowest to behind the highest.
+struct Extent
+{
+    uintptr_t begin, end;
+    template <class T>
+    ZEPM_INLINE Extent(const PointArray<T>& a, int size, ptrdiff_t count)
+    {
+        const auto first = reinterpret_cast<uintptr_t>(a.p);
+        const ptrdiff_t last = (count - 1) * a.stride;
+        begin = first + static_cast<uintptr_t>(last < 0 ? last : 0);
+        end = first + static_cast<uintptr_t>(last < 0 ? 0 : last) +
+              static_cast<uintptr_t>((size - 1) * a.elementStride) + sizeof(T);
+    }
+};
+
+// Whether no two points have a byte in common.
+template <class T>
+ZEPM_INLINE bool isDisjoint(const PointArray<T>& a, int size, ptrdiff_t count)
+{
+    const ptrdiff_t pointSize = (size - 1) * a.elementStride + static_cast<ptrdiff_t>(sizeof(T));
+    return magnitude(a.stride) >= pointSize ||
+           (magnitude(a.stride) == sizeof(T) && a.elementStride >= count * static_cast<ptrdiff_t>(sizeof(T)));
+}
+
+// Whether the order of the points plays no part: no result is the source of another point.
+template <class Formula>
+ZEPM_INLINE bool isFree(const Source& src, const Destination& dst, ptrdiff_t count)
+{
+    constexpr int size = Formula::in > Formula::out ? Formula::in : Formula::out;
+    if (src.p == dst.p && src.stride == dst.stride && src.elementStride == dst.elementStride)
+        return isDisjoint(dst, size, count);
+    const Extent from(src, Formula::in, count), to(dst, Formula::out, count);
+    return isDisjoint(dst, Formula::out, count) && (from.end <= to.begin || to.end <= from.begin);
+}
+
+} // namespace
+
+template <class Formula>
+bool transformPointArray(const Formula& formula, const Source& src, const Destination& dst, ptrdiff_t count)
+{
+    constexpr ptrdiff_t sz = sizeof(float32), recordSize = 16;
+    if (count < 4 || !isFree<Formula>(src, dst, count)) return onePerStep(formula, src, dst, 0, count);
+    if (src.elementStride == sz && dst.elementStride == sz)
+    {
+        if constexpr (Formula::out == 4)
+        {
+            if (dst.stride != recordSize) return rowwise<0, 0>(formula, src, dst, count);
+            if (src.stride == recordSize) return rowwise<recordSize, recordSize>(formula, src, dst, count);
+            if constexpr (Formula::in == 3)
+            {
+                if (src.stride == 3 * sz) return rowwise<3 * sz, recordSize>(formula, src, dst, count);
+            }
+            return rowwise<0, recordSize>(formula, src, dst, count);
+        }
+        else
+        {
+            if (src.stride == Formula::in * sz && dst.stride == Formula::out * sz)
+                return tiles(formula, src, dst, Dense{}, Dense{}, count);
+            if (src.stride == recordSize && dst.stride == recordSize)
+                return tiles(formula, src, dst, Apart<true>{recordSize}, Apart<true>{recordSize}, count);
+            return tiles(formula, src, dst, Apart<false>{src.stride}, Apart<false>{dst.stride}, count);
+        }
+    }
+    if constexpr (std::is_same_v<Formula, Homogeneous>) // the one with element strides
+    {
+        if (src.stride == sz && dst.stride == sz)
+            return tiles(formula, src, dst, Across{src.elementStride}, Across{dst.elementStride}, count);
+    }
+    return onePerStep(formula, src, dst, 0, count);
+}
+
+#define ZEPM_INSTANTIATE(...)                                                                                          \
+    template bool transformPointArray<__VA_ARGS__>(const __VA_ARGS__&, const Source&, const Destination&, ptrdiff_t);
+ZEPM_INSTANTIATE(Through<Affine<2>>)
+ZEPM_INSTANTIATE(Through<Affine<3>>)
+ZEPM_INSTANTIATE(Through<Affine<4>>)
+ZEPM_INSTANTIATE(Through<Coord<2>>)
+ZEPM_INSTANTIATE(Through<Coord<3>>)
+ZEPM_INSTANTIATE(Through<Normal<2>>)
+ZEPM_INSTANTIATE(Through<Normal<3>>)
+ZEPM_INSTANTIATE(Projection)
+ZEPM_INSTANTIATE(Unprojection)
+ZEPM_INSTANTIATE(Homogeneous)
+#undef ZEPM_INSTANTIATE
+
+} // namespace zepm::ZEPM_LEVEL

@@ -1,0 +1,276 @@
+// Products of any sizes of matrices with contiguous rows: tiles of a few rows by a register of columns, sums from zero.
+#pragma once
+
+#include "product/wide.h"
+
+namespace zepm::ZEPM_LEVEL
+{
+
+// ---- The second factor ----------------------------------------------------------------------------------------------
+
+// Vectors of N columns of the second factor, by the inner index; of the last vector Count columns.
+template <class T, int N, int Count>
+struct ColumnsAsStored
+{
+    const char* p;
+    ptrdiff_t stride1;
+    template <int V>
+    ZEPM_INLINE Vec<T, N> get(ptrdiff_t k) const
+    {
+        return loadFirst<T, N, Count>(p + k * stride1 + V * N * sz<T>);
+    }
+};
+
+// The same of a transposed factor, whose columns are rows as stored: element by element.
+template <class T, int N, int Count>
+struct ColumnsApart
+{
+    const char* p;
+    ptrdiff_t stride1;
+    template <int V>
+    ZEPM_INLINE Vec<T, N> get(ptrdiff_t k) const
+    {
+        T x[N] = {};
+        for (int j = 0; j < Count; ++j) x[j] = load<T>(p + (V * N + j) * stride1 + k * sz<T>);
+        return loadVec<T, N>(reinterpret_cast<const char*>(x));
+    }
+};
+
+// The same again, gathered before use.
+inline constexpr int32 mostGathered = 64;
+template <class T, int N, int Count, int Vectors>
+struct ColumnsGathered
+{
+    alignas(registerBytes) T x[Vectors][mostGathered][N];
+
+    ZEPM_INLINE ColumnsGathered(const char* p, ptrdiff_t stride1, int32 inner)
+    {
+        each<Vectors>([&]<int V>()
+                          __attribute__((always_inline)) { gather(x[V], p + V * N * stride1, stride1, inner); });
+    }
+    template <int V>
+    ZEPM_INLINE Vec<T, N> get(ptrdiff_t k) const
+    {
+        return loadVec<T, N>(reinterpret_cast<const char*>(x[V][k]));
+    }
+
+private:
+    ZEPM_INLINE static void gather(T (&to)[mostGathered][N], const char* p, ptrdiff_t stride1, int32 inner)
+    {
+        int32 k = 0;
+        if constexpr (N % laneElements<T> == 0 && Count == N)
+        {
+            constexpr int E = laneElements<T>;
+            for (; k + E <= inner; k += E)
+            {
+                Vec<T, N> rows[E];
+                each<E>([&]<int S>() __attribute__((always_inline)) {
+                    rows[S] = joinBlocks<T, E, N / E>([&]<int G>() __attribute__((always_inline)) {
+                        return loadVec<T, E>(p + (G * E + S) * stride1 + k * sz<T>);
+                    });
+                });
+                transposeLanes<N>(rows);
+                each<E>([&]<int S>() __attribute__((always_inline)) {
+                    storeVec<T, N>(reinterpret_cast<char*>(to[k + S]), rows[S]);
+                });
+            }
+        }
+        for (; k < inner; ++k)
+            for (int j = 0; j < N; ++j) to[k][j] = j < Count ? load<T>(p + j * stride1 + k * sz<T>) : T(0);
+    }
+};
+
+// ---- Tiles ----------------------------------------------------------------------------------------------------------
+
+// Some columns of one object's result, and the first factor.
+struct Tiles
+{
+    const char* a;
+    ptrdiff_t stride1A;
+    char* d;
+    ptrdiff_t stride1D;
+    ptrdiff_t rows, firstInPairs, inner;
+};
+
+// Height rows of the result from row i on.
+template <class T, bool Transposes1, int N, int Count, int Vectors, int Height, class B>
+ZEPM_INLINE void tile(const Tiles x, const B& b, ptrdiff_t i)
+{
+    const char* a[Height];
+    each<Height>([&]<int I>() __attribute__((always_inline)) {
+        a[I] = Transposes1 ? x.a + (i + I) * sz<T> : x.a + (i + I) * x.stride1A;
+    });
+    const ptrdiff_t step = Transposes1 ? x.stride1A : sz<T>;
+    Vec<T, N> sums[Height][Vectors] = {};
+    for (ptrdiff_t k = 0; k < x.inner; ++k)
+    {
+        Vec<T, N> row[Vectors];
+        each<Vectors>([&]<int V>() __attribute__((always_inline)) { row[V] = b.template get<V>(k); });
+        each<Height>([&]<int I>() __attribute__((always_inline)) {
+            const Vec<T, N> factor = broadcast<T, N>(load<T>(a[I] + k * step));
+            each<Vectors>([&]<int V>() __attribute__((always_inline)) { sums[I][V] += factor * row[V]; });
+        });
+    }
+    each<Height>([&]<int I>() __attribute__((always_inline)) {
+        each<Vectors>([&]<int V>() __attribute__((always_inline)) {
+            storeFirst<T, N, Count>(x.d + (i + I) * x.stride1D + V * N * sz<T>, sums[I][V]);
+        });
+    });
+}
+
+// One row that sums even and odd products apart.
+template <class T, bool Transposes1, int N, int Count, int V, class B>
+ZEPM_INLINE void rowInPairs(const Tiles x, const B& b, ptrdiff_t i)
+{
+    auto product = [&](ptrdiff_t k) __attribute__((always_inline))
+    {
+        const char* const a = Transposes1 ? x.a + k * x.stride1A + i * sz<T> : x.a + i * x.stride1A + k * sz<T>;
+        return broadcast<T, N>(load<T>(a)) * b.template get<V>(k);
+    };
+    Vec<T, N> even{}, odd{};
+    ptrdiff_t k = 0;
+    for (; k + 2 <= x.inner; k += 2)
+    {
+        even += product(k);
+        odd += product(k + 1);
+    }
+    Vec<T, N> sum = even + odd;
+    if (k < x.inner) sum += product(k);
+    storeFirst<T, N, Count>(x.d + i * x.stride1D + V * N * sz<T>, sum);
+}
+
+template <class T, bool Transposes1, int N, int Count, int Vectors, class B>
+ZEPM_INLINE void tiles(const Tiles x, const B& b)
+{
+    ptrdiff_t i = 0;
+    for (; i + 4 <= x.firstInPairs; i += 4) tile<T, Transposes1, N, Count, Vectors, 4>(x, b, i);
+    for (; i < x.firstInPairs; ++i) tile<T, Transposes1, N, Count, Vectors, 1>(x, b, i);
+    for (; i < x.rows; ++i)
+        each<Vectors>([&]<int V>()
+                          __attribute__((always_inline)) { rowInPairs<T, Transposes1, N, Count, V>(x, b, i); });
+}
+
+template <class T, bool Transposes1, bool Transposes2, int N, int Count, int Vectors = 1>
+[[gnu::noinline]] void columnsFrom(const Tiles& x, const char* b, ptrdiff_t stride1)
+{
+    if constexpr (!Transposes2)
+        tiles<T, Transposes1, N, Count, Vectors>(x, ColumnsAsStored<T, N, Count>{b, stride1});
+    else if (x.inner <= mostGathered)
+        tiles<T, Transposes1, N, Count, Vectors>(
+            x, ColumnsGathered<T, N, Count, Vectors>(b, stride1, static_cast<int32>(x.inner)));
+    else
+        tiles<T, Transposes1, N, Count, Vectors>(x, ColumnsApart<T, N, Count>{b, stride1});
+}
+
+// All columns: two registers at a time, one, then by halves down to 16 bytes, of which the last may not be full.
+template <class T, bool Transposes1, bool Transposes2>
+ZEPM_INLINE void multiplyObject(Tiles x, const char* b, ptrdiff_t stride1, ptrdiff_t cols)
+{
+    constexpr int W = lanes<T>, E = laneElements<T>;
+    auto take = [&]<int N, int Count, int Vectors>() __attribute__((always_inline))
+    {
+        constexpr ptrdiff_t taken = Count * Vectors;
+        columnsFrom<T, Transposes1, Transposes2, N, Count, Vectors>(x, b, stride1);
+        x.d += taken * sz<T>;
+        b += Transposes2 ? taken * stride1 : taken * sz<T>;
+        cols -= taken;
+    };
+    while (cols >= 2 * W) take.template operator()<W, W, 2>();
+    if (cols >= W) take.template operator()<W, W, 1>();
+    if constexpr (W / 2 > E)
+        if (cols >= W / 2) take.template operator()<W / 2, W / 2, 1>();
+    if constexpr (W > E)
+        if (cols >= E) take.template operator()<E, E, 1>();
+    if (cols == 1) take.template operator()<(E == 2 ? 1 : E), 1, 1>();
+    if constexpr (E > 2)
+    {
+        if (cols == 2) take.template operator()<E, 2, 1>();
+        if (cols == 3) take.template operator()<E, 3, 1>();
+    }
+}
+
+template <class T, bool Transposes1, bool Transposes2>
+ZEPM_INLINE void multiplyTiles(const ProductCall& call)
+{
+    Objects<true> a(call.a, call.isList), b(call.b, call.isList), d(call.d, call.isList);
+    for (ptrdiff_t k = 0; k < call.count; ++k)
+    {
+        multiplyObject<T, Transposes1, Transposes2>({a.object(0), call.a.stride1, const_cast<char*>(d.object(0)),
+                                                     call.d.stride1, call.rows, call.firstInPairs, call.inner},
+                                                    b.object(0), call.b.stride1, call.cols);
+        a.advance(1), b.advance(1), d.advance(1);
+    }
+}
+
+// ---- Results beyond the caches --------------------------------------------------------------------------------------
+
+// Dense results that no cache would hold are stored past the caches, which saves reading the destination first.
+template <class T>
+ZEPM_INLINE bool isBeyondCaches(const ProductCall& c)
+{
+    constexpr int64_t least = 1 << 20;
+    const ptrdiff_t rowSize = c.cols * sz<T>, size = c.rows * rowSize;
+    const bool isDense = !c.isList && c.d.stride1 == rowSize && c.d.step == size;
+    const int64_t bytes = static_cast<int64_t>(c.count) * size * (1 + !c.a.isFixed + !c.b.isFixed);
+    if (!isDense || bytes < least) return false;
+    int32 cacheSize = 0;
+    zepGetMaxCacheSizeB(&cacheSize);
+    return cacheSize > 0 && bytes > cacheSize;
+}
+
+ZEPM_INLINE void streamBytes(char* to, const char* from, ptrdiff_t n)
+{
+    const ptrdiff_t toAligned = static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(to) % registerBytes);
+    ptrdiff_t j = toAligned < n ? toAligned : n;
+    __builtin_memcpy(to, from, static_cast<size_t>(j));
+    for (; j + registerBytes <= n; j += registerBytes)
+        streamVec<float32>(to + j, loadVec<float32, lanes<float32>>(from + j));
+    __builtin_memcpy(to + j, from + j, static_cast<size_t>(n - j));
+}
+
+// In blocks of objects, each by way of a buffer in the first cache.
+template <class Multiply>
+ZEPM_INLINE void multiplyInBlocks(const ProductCall& call, ptrdiff_t elementSize, Multiply multiply)
+{
+    constexpr ptrdiff_t blockSize = 8192;
+    alignas(64) char block[blockSize];
+    const ptrdiff_t rowSize = call.cols * elementSize, size = call.rows * rowSize;
+    ProductCall part = call;
+    part.d = {block, size, rowSize, false};
+    for (ptrdiff_t done = 0; done < call.count; done += part.count)
+    {
+        part.count = blockSize / size < call.count - done ? blockSize / size : call.count - done;
+        multiply(part);
+        streamBytes(const_cast<char*>(call.d.p) + done * size, block, part.count * size);
+        if (!call.a.isFixed) part.a.p += part.count * call.a.step;
+        if (!call.b.isFixed) part.b.p += part.count * call.b.step;
+    }
+    fenceStreams();
+}
+
+// ---- The call -------------------------------------------------------------------------------------------------------
+
+template <class T, bool Transposes1, bool Transposes2>
+[[gnu::noinline]] void multiplyObjects(const ProductCall& call)
+{
+    switch (call.order)
+    {
+    case 3: return multiplyOrder<T, 3, Transposes1, Transposes2>(call);
+    case 4: return multiplyOrder<T, 4, Transposes1, Transposes2>(call);
+    case 5: return multiplyOrder<T, 5, Transposes1, Transposes2>(call);
+    case 6: return multiplyOrder<T, 6, Transposes1, Transposes2>(call);
+    default: return multiplyTiles<T, Transposes1, Transposes2>(call);
+    }
+}
+
+template <class T, bool Transposes1, bool Transposes2>
+void multiplyMatrices(const ProductCall& call)
+{
+    constexpr ptrdiff_t largest = 1024; // of the results worth a block of several
+    if (call.rows * (call.cols * sz<T>) <= largest && isBeyondCaches<T>(call))
+        multiplyInBlocks(call, sz<T>, multiplyObjects<T, Transposes1, Transposes2>);
+    else
+        multiplyObjects<T, Transposes1, Transposes2>(call);
+}
+
+} // namespace zepm::ZEPM_LEVEL

@@ -1,0 +1,553 @@
+// Products of matrices with contiguous rows, as wide as the registers of the level.
+//
+// The result of an order is computed in panels of columns. A register of a panel holds blocks of lanes, each block the
+// columns of one result row; where a row fills only part of a register, the blocks are rows of the same object or the
+// same row of several objects. Every lane sees the operations of its element in their order:
+//
+//     result(row i) = a(i, 0) * b(row 0) + a(i, 1) * b(row 1) + ...
+//
+// with a(i, k) in all lanes of a block. A transposed factor differs in where a lane comes from, and in nothing else.
+//
+// No byte outside an object's elements is touched. A row that is no whole number of registers is loaded in one piece
+// with the start of the next row of the same object where rows lie without gaps (solid objects), else in pieces; it is
+// stored likewise, and the next row then overwrites what reached into it.
+#pragma once
+
+#include "frame/lanes.h"
+#include "product/products.h"
+
+namespace zepm::ZEPM_LEVEL
+{
+
+// ---- Pieces of registers --------------------------------------------------------------------------------------------
+
+template <class T>
+inline constexpr ptrdiff_t sz = sizeof(T);
+
+// visit.operator()<0>() to visit.operator()<N - 1>().
+template <int N, class Visit>
+ZEPM_INLINE void each(Visit visit)
+{
+    [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline))
+    {
+        (visit.template operator()<I>(), ...);
+    }
+    (std::make_integer_sequence<int, N>{});
+}
+
+constexpr int powerOfTwoFrom(int n)
+{
+    int power = 1;
+    while (power < n) power *= 2;
+    return power;
+}
+
+constexpr int greatestCommonDivisor(int m, int n) { return n == 0 ? m : greatestCommonDivisor(n, m % n); }
+
+// The lanes of lo, then those of hi.
+template <class T, int N>
+ZEPM_INLINE Vec<T, 2 * N> join(Vec<T, N> lo, Vec<T, N> hi)
+{
+    if constexpr (N == 1)
+        return Vec<T, 2>{lo, hi};
+    else
+        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+        {
+            return __builtin_shufflevector(lo, hi, Lane...);
+        }
+    (std::make_integer_sequence<int, 2 * N>{});
+}
+
+// Half of a vector: Half 0 is the lower lanes.
+template <class T, int N, int Half>
+ZEPM_INLINE Vec<T, N / 2> half(Vec<T, N> x)
+{
+    if constexpr (N == 2)
+        return x[Half];
+    else
+        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+        {
+            return __builtin_shufflevector(x, x, (Half * (N / 2) + Lane)...);
+        }
+    (std::make_integer_sequence<int, N / 2>{});
+}
+
+// The first Count of N elements; the other lanes are zero.
+template <class T, int N, int Count>
+ZEPM_INLINE Vec<T, N> loadFirst(const char* p)
+{
+    static_assert(Count <= N);
+    if constexpr (Count == N)
+        return loadVec<T, N>(p);
+    else if constexpr (Count == 0)
+        return Vec<T, N>{};
+    else if constexpr (Count == 1)
+        return Vec<T, N>{load<T>(p)};
+    else if constexpr (N == 4 && sizeof(T) == 4)
+    {
+        // Two floats are one element of 8 bytes: vectors of 8 bytes are not in the registers' repertoire.
+        const auto two = reinterpret_cast<Vec<float32, 4>>(Vec<float64, 2>{load<float64>(p)});
+        if constexpr (Count == 2)
+            return two;
+        else
+            return __builtin_shufflevector(two, Vec<float32, 4>{load<T>(p + 2 * sz<T>)}, 0, 1, 4, 5);
+    }
+    else if constexpr (Count <= N / 2)
+        return join<T, N / 2>(loadFirst<T, N / 2, Count>(p), Vec<T, N / 2>{});
+    else
+        return join<T, N / 2>(loadVec<T, N / 2>(p), loadFirst<T, N / 2, Count - N / 2>(p + N / 2 * sz<T>));
+}
+
+template <class T, int N, int Count>
+ZEPM_INLINE void storeFirst(char* p, Vec<T, N> x)
+{
+    if constexpr (Count == N)
+        storeVec<T, N>(p, x);
+    else if constexpr (Count == 1)
+        store<T>(p, x[0]);
+    else if constexpr (N == 4 && sizeof(T) == 4)
+    {
+        store<float64>(p, reinterpret_cast<Vec<float64, 2>>(x)[0]);
+        if constexpr (Count == 3) store<T>(p + 2 * sz<T>, x[2]);
+    }
+    else if constexpr (Count <= N / 2)
+        storeFirst<T, N / 2, Count>(p, half<T, N, 0>(x));
+    else
+    {
+        storeVec<T, N / 2>(p, half<T, N, 0>(x));
+        storeFirst<T, N / 2, Count - N / 2>(p + N / 2 * sz<T>, half<T, N, 1>(x));
+    }
+}
+
+// A vector of blocks of N lanes each, block(r) for r from First on.
+template <class T, int N, int Blocks, int First = 0, class Block>
+ZEPM_INLINE Vec<T, N * Blocks> joinBlocks(Block block)
+{
+    if constexpr (Blocks == 1)
+        return block.template operator()<First>();
+    else
+        return join<T, N * Blocks / 2>(joinBlocks<T, N, Blocks / 2, First>(block),
+                                       joinBlocks<T, N, Blocks / 2, First + Blocks / 2>(block));
+}
+
+// One vector of N lanes, Blocks times.
+template <class T, int N, int Blocks>
+ZEPM_INLINE Vec<T, N * Blocks> repeat(Vec<T, N> x)
+{
+    if constexpr (Blocks == 1)
+        return x;
+    else
+        return repeat<T, 2 * N, Blocks / 2>(join<T, N>(x, x));
+}
+
+// Elements of 16 bytes: shuffles within them are single instructions at every level.
+template <class T>
+inline constexpr int laneElements = 16 / static_cast<int>(sizeof(T));
+
+// In each 16 bytes: element e of all of rows, in their order, as vector e.
+template <int N>
+ZEPM_INLINE void transposeLanes(Vec<float64, N> (&rows)[2])
+{
+    auto shuffled = [&]<int Odd>() __attribute__((always_inline))
+    {
+        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+        {
+            return __builtin_shufflevector(rows[0], rows[1], (Lane / 2 * 2 + Odd + Lane % 2 * N)...);
+        }
+        (std::make_integer_sequence<int, N>{});
+    };
+    const auto even = shuffled.template operator()<0>(), odd = shuffled.template operator()<1>();
+    rows[0] = even;
+    rows[1] = odd;
+}
+template <int N>
+ZEPM_INLINE void transposeLanes(Vec<float32, N> (&rows)[4])
+{
+    // The lower or the upper two elements of x and y in turn: x0 y0 x1 y1.
+    auto zip = [&]<int Upper>(Vec<float32, N> x, Vec<float32, N> y) __attribute__((always_inline))
+    {
+        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+        {
+            return __builtin_shufflevector(x, y, (Lane / 4 * 4 + Upper * 2 + Lane % 4 / 2 + Lane % 2 * N)...);
+        }
+        (std::make_integer_sequence<int, N>{});
+    };
+    const auto t0 = zip.template operator()<0>(rows[0], rows[2]), t1 = zip.template operator()<0>(rows[1], rows[3]);
+    const auto t2 = zip.template operator()<1>(rows[0], rows[2]), t3 = zip.template operator()<1>(rows[1], rows[3]);
+    rows[0] = zip.template operator()<0>(t0, t1);
+    rows[1] = zip.template operator()<1>(t0, t1);
+    rows[2] = zip.template operator()<0>(t2, t3);
+    rows[3] = zip.template operator()<1>(t2, t3);
+}
+
+// ---- Where the objects lie ------------------------------------------------------------------------------------------
+
+// An object's rows. Those of a solid object have no gaps between them.
+template <class T, int Order, bool Solid>
+struct Rows
+{
+    const char* p;
+    ptrdiff_t stride1;
+
+    ZEPM_INLINE const char* at(int i, int j) const { return p + i * (Solid ? Order * sz<T> : stride1) + j * sz<T>; }
+    // Whether N elements from element (I, J) on lie within the object.
+    template <int N, int I, int J>
+    static constexpr bool holds = Solid ? I* Order + J + N <= Order* Order : J + N <= Order;
+
+    // Row I from column J on: Count elements in N lanes, what follows in the others.
+    template <int N, int Count, int I, int J>
+    ZEPM_INLINE Vec<T, N> get() const
+    {
+        return loadFirst < T, N, holds<N, I, J> ? N : Count > (at(I, J));
+    }
+    // The same, Times over.
+    template <int N, int Count, int I, int J, int Times>
+    ZEPM_INLINE Vec<T, N * Times> getRepeated() const
+    {
+#if defined(__AVX__)
+        // One load, where the compiler would spend a shuffle.
+        if constexpr (Times == 2 && N == laneElements<T> && (Count == N || holds<N, I, J>))
+            return reinterpret_cast<Vec<T, N * Times>>(_mm256_broadcast_ps(reinterpret_cast<const __m128*>(at(I, J))));
+        else
+#endif
+            return repeat<T, N, Times>(get<N, Count, I, J>());
+    }
+    // Rows are to be set in ascending order.
+    template <int N, int Count, int I, int J>
+    ZEPM_INLINE void set(Vec<T, N> x) const
+    {
+        storeFirst<T, N, holds<N, I, J> ? N : Count>(const_cast<char*>(at(I, J)), x);
+    }
+};
+
+// The objects of an operand one after another. Without IsList no operand is behind a table.
+template <bool IsList>
+struct Objects
+{
+    const char* p;
+    ptrdiff_t step, shift;
+    bool isListed;
+
+    ZEPM_INLINE Objects(const MatrixOperand& operand, bool isList)
+        : p(operand.p),
+          step(operand.isFixed    ? 0
+               : IsList && isList ? static_cast<ptrdiff_t>(sizeof(char*))
+                                  : operand.step),
+          shift(operand.step),
+          isListed(IsList && isList && !operand.isFixed)
+    {
+    }
+    ZEPM_INLINE const char* object(int r) const
+    {
+        const char* const at = p + r * step;
+        return isListed ? load<const char*>(at) + shift : at;
+    }
+    ZEPM_INLINE void advance(int objects) { p += objects * step; }
+};
+
+// ---- Panels ---------------------------------------------------------------------------------------------------------
+
+// Which of the factors is the same for every object.
+enum class Fixed
+{
+    None,
+    First,
+    Second
+};
+
+template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid>
+struct Factors
+{
+    using Object = Rows<T, Order, Solid>;
+    static constexpr int order = Order;
+
+    // Columns First to First + Columns - 1 of the result in registers of up to Width lanes.
+    template <int Width, int First, int Columns>
+    struct Panel
+    {
+        static constexpr int blockLanes = powerOfTwoFrom(Columns);
+        // Behind the first panel, which takes one object at a time then, so do the others.
+        static constexpr int blocks =
+            First == 0 ? Width / blockLanes : greatestCommonDivisor(Order, Width / blockLanes);
+        static constexpr int rowsTogether = greatestCommonDivisor(Order, blocks);
+        static constexpr int objects = blocks / rowsTogether;
+        static constexpr int registers = Order / rowsTogether;
+        static constexpr int N = blocks * blockLanes;
+        // Whether the lanes of a block hold a row of a factor, and a(i, k) comes from there.
+        static constexpr bool permutes = blocks > 1 && First == 0;
+        using V = Vec<T, N>;
+
+        // Block r of register q is this row of that object.
+        static constexpr int rowOf(int q, int r) { return q * rowsTogether + r % rowsTogether; }
+        static constexpr int objectOf(int r) { return r / rowsTogether; }
+
+        // Row I, the same in all blocks of an object.
+        template <int I, class Object>
+        ZEPM_INLINE static V rowOfAll(const Object (&x)[objects])
+        {
+            return joinBlocks<T, blockLanes * rowsTogether, objects>([&]<int R>() __attribute__((always_inline)) {
+                return x[R].template getRepeated<blockLanes, Columns, I, First, rowsTogether>();
+            });
+        }
+
+        struct FirstFactor
+        {
+            V rows[permutes ? (Transposes1 ? Order : registers) : 1];
+            const Object* object;
+
+            ZEPM_INLINE explicit FirstFactor(const Object (&a)[objects]) : object(a)
+            {
+                if constexpr (permutes && Transposes1)
+                    each<Order>([&]<int I>() __attribute__((always_inline)) { rows[I] = rowOfAll<I>(a); });
+                else if constexpr (permutes)
+                    each<registers>([&]<int Q>() __attribute__((always_inline)) {
+                        if constexpr (Solid && Order == blockLanes && objects == 1)
+                            rows[Q] = loadVec<T, N>(a[0].at(rowOf(Q, 0), 0));
+                        else
+                            rows[Q] = joinBlocks<T, blockLanes, blocks>([&]<int R>() __attribute__((always_inline)) {
+                                return a[objectOf(R)].template get<blockLanes, Columns, rowOf(Q, R), 0>();
+                            });
+                    });
+            }
+            // a(i, K) for the rows of register Q.
+            template <int Q, int K>
+            ZEPM_INLINE V get() const
+            {
+                if constexpr (permutes && Transposes1)
+                    return permute<T, N>(
+                        rows[K], [](int lane) { return lane / blockLanes * blockLanes + rowOf(Q, lane / blockLanes); });
+                else if constexpr (permutes)
+                    return permute<T, N>(rows[Q], [](int lane) { return lane / blockLanes * blockLanes + K; });
+                else
+                    return joinBlocks<T, blockLanes, blocks>([&]<int R>() __attribute__((always_inline)) {
+                        constexpr int i = rowOf(Q, R);
+                        return broadcast<T, blockLanes>(
+                            load<T>(Transposes1 ? object[objectOf(R)].at(K, i) : object[objectOf(R)].at(i, K)));
+                    });
+            }
+        };
+
+        struct SecondFactor
+        {
+            V rows[Order];
+
+            ZEPM_INLINE explicit SecondFactor(const Object (&b)[objects])
+            {
+                constexpr int E = laneElements<T>;
+                if constexpr (!Transposes2)
+                    each<Order>([&]<int K>() __attribute__((always_inline)) { rows[K] = rowOfAll<K>(b); });
+                else if constexpr (blockLanes < E)
+                    each<Order>([&]<int K>() __attribute__((always_inline)) {
+                        rows[K] = [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+                        {
+                            return joinLanes({load<T>(b[objectOf(Lane / blockLanes)].at(
+                                First + (Lane % blockLanes < Columns ? Lane % blockLanes : 0), K))...});
+                        }
+                        (std::make_integer_sequence<int, N>{});
+                    });
+                else
+                    // Each 16 bytes hold E elements of one stored row, then one element of E stored rows.
+                    each<(Order + E - 1) / E>([&]<int Group>() __attribute__((always_inline)) {
+                        V stored[E];
+                        each<E>([&]<int S>() __attribute__((always_inline)) {
+                            stored[S] = joinBlocks<T, blockLanes * rowsTogether, objects>([&]<int R>() __attribute__((
+                                always_inline)) {
+                                return repeat<T, blockLanes, rowsTogether>(storedColumns<Group * E, S>(b[R]));
+                            });
+                        });
+                        transposeLanes<N>(stored);
+                        each<E>([&]<int S>() __attribute__((always_inline)) {
+                            if constexpr (Group * E + S < Order) rows[Group * E + S] = stored[S];
+                        });
+                    });
+            }
+
+        private:
+            ZEPM_INLINE static V joinLanes(const T (&x)[N])
+            {
+                return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+                {
+                    if constexpr (N == 1)
+                        return x[0];
+                    else
+                        return V{x[Lane]...};
+                }
+                (std::make_integer_sequence<int, N>{});
+            }
+            // A block: in each 16 bytes g, elements from column K on of stored row First + g * E + S.
+            template <int K, int S>
+            ZEPM_INLINE static Vec<T, blockLanes> storedColumns(const Object& b)
+            {
+                constexpr int E = laneElements<T>;
+                return joinBlocks<T, E, blockLanes / E>([&]<int G>() __attribute__((always_inline)) {
+                    constexpr int j = First + G * E + S;
+                    if constexpr (j < Order)
+                        return b.template get<E, (Order - K < E ? Order - K : E), j, K>();
+                    else
+                        return Vec<T, E>{};
+                });
+            }
+        };
+
+        ZEPM_INLINE static void multiply(const FirstFactor& a, const SecondFactor& b, const Object (&d)[objects])
+        {
+            each<registers>([&]<int Q>() __attribute__((always_inline)) {
+                V sum = a.template get<Q, 0>() * b.rows[0];
+                each<Order - 1>([&]<int K>() __attribute__((always_inline)) {
+                    sum += a.template get<Q, K + 1>() * b.rows[K + 1];
+                });
+                if constexpr (Solid && Order == blockLanes && objects == 1)
+                    storeVec<T, N>(const_cast<char*>(d[0].at(rowOf(Q, 0), 0)), sum);
+                else
+                    storeBlocks<Q, 0, blocks>(sum, d);
+            });
+        }
+
+        template <int Q, int R, int Blocks>
+        ZEPM_INLINE static void storeBlocks(Vec<T, blockLanes * Blocks> x, const Object (&d)[objects])
+        {
+            if constexpr (Blocks == 1)
+                d[objectOf(R)].template set<blockLanes, Columns, rowOf(Q, R), First>(x);
+            else
+            {
+                storeBlocks<Q, R, Blocks / 2>(half<T, blockLanes * Blocks, 0>(x), d);
+                storeBlocks<Q, R + Blocks / 2, Blocks / 2>(half<T, blockLanes * Blocks, 1>(x), d);
+            }
+        }
+    };
+
+    // The panels of an order: this one, and what is right of it.
+    template <int Width, int First = 0>
+    struct Panels
+    {
+        using Own = Panel<Width, First, (Order - First < Width ? Order - First : Width)>;
+        using Rest = Panels<Width, First + Width>;
+        static constexpr int objects = Own::objects;
+        typename Own::FirstFactor a;
+        typename Own::SecondFactor b;
+        Rest rest;
+
+        // Both factors, of which those that change are loaded again for each group of objects.
+        ZEPM_INLINE Panels(const Object (&objectA)[objects], const Object (&objectB)[objects])
+            : a(objectA), b(objectB), rest(objectA, objectB)
+        {
+        }
+        template <Fixed fixed>
+        ZEPM_INLINE void multiply(const Object (&objectA)[objects], const Object (&objectB)[objects],
+                                  const Object (&d)[objects]) const
+        {
+            using A = typename Own::FirstFactor;
+            using B = typename Own::SecondFactor;
+            if constexpr (fixed == Fixed::First)
+                Own::multiply(a, B(objectB), d);
+            else if constexpr (fixed == Fixed::Second)
+                Own::multiply(A(objectA), b, d);
+            else
+                Own::multiply(A(objectA), B(objectB), d);
+            rest.template multiply<fixed>(objectA, objectB, d);
+        }
+    };
+    template <int Width, int First>
+    requires(First >= Order) struct Panels<Width, First>
+    {
+        template <class Objects>
+        ZEPM_INLINE Panels(const Objects&, const Objects&)
+        {
+        }
+        template <Fixed, class Objects>
+        ZEPM_INLINE void multiply(const Objects&, const Objects&, const Objects&) const
+        {
+        }
+    };
+
+    // All objects in groups, then those left over in registers of half the width.
+    template <int Width, Fixed fixed, class Found>
+    ZEPM_INLINE static void multiply(Found a, Found b, Found d, const ProductCall& call, ptrdiff_t count)
+    {
+        using All = Panels<Width>;
+        constexpr int G = All::objects;
+        auto gathered = [&](const Found& x, const MatrixOperand& operand) __attribute__((always_inline))
+        {
+            return [&]<int... R>(std::integer_sequence<int, R...>) __attribute__((always_inline))
+            {
+                return Group<G>{{{x.object(R), operand.stride1}...}};
+            }
+            (std::make_integer_sequence<int, G>{});
+        };
+        if (count >= G)
+        {
+            const auto fixedA = gathered(a, call.a), fixedB = gathered(b, call.b);
+            const All panels(fixedA.object, fixedB.object);
+            for (; count >= G; count -= G)
+            {
+                const auto objectA = fixed == Fixed::First ? fixedA : gathered(a, call.a);
+                const auto objectB = fixed == Fixed::Second ? fixedB : gathered(b, call.b);
+                const auto objectD = gathered(d, call.d);
+                panels.template multiply<fixed>(objectA.object, objectB.object, objectD.object);
+                a.advance(G), b.advance(G), d.advance(G);
+            }
+        }
+        if constexpr (G > 1)
+        {
+            if (count > 0) multiply<Width / 2, fixed>(a, b, d, call, count);
+        }
+    }
+
+private:
+    template <int G>
+    struct Group
+    {
+        Object object[G];
+    };
+};
+
+// ---- The bodies of the orders ---------------------------------------------------------------------------------------
+
+template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, Fixed fixed>
+[[gnu::noinline]] void multiplyOrder(const ProductCall& call)
+{
+    // Objects of a list are not looked at for gaps.
+    using Found = Objects<!Solid>;
+    Factors<T, Order, Transposes1, Transposes2, Solid>::template multiply<lanes<T>, fixed>(
+        Found(call.a, call.isList), Found(call.b, call.isList), Found(call.d, call.isList), call, call.count);
+}
+
+template <class T, int Order, bool Transposes1, bool Transposes2>
+ZEPM_INLINE void multiplyOrder(const ProductCall& call)
+{
+    const ptrdiff_t rowSize = Order * sz<T>;
+    const bool isSolid =
+        !call.isList && call.a.stride1 == rowSize && call.b.stride1 == rowSize && call.d.stride1 == rowSize;
+    auto ofFixed = [&]<Fixed fixed>() __attribute__((always_inline))
+    {
+        isSolid ? multiplyOrder<T, Order, Transposes1, Transposes2, true, fixed>(call)
+                : multiplyOrder<T, Order, Transposes1, Transposes2, false, fixed>(call);
+    };
+    // A fixed first factor is held where that saves shuffles; elsewhere its elements come from memory anyway.
+    using Whole = typename Factors<T, Order, Transposes1, Transposes2, true>::template Panels<lanes<T>>;
+    constexpr bool holdsFirst = Whole::Own::permutes;
+    if (call.b.isFixed) return ofFixed.template operator()<Fixed::Second>();
+    if constexpr (holdsFirst)
+        if (call.a.isFixed && isSolid)
+            return multiplyOrder<T, Order, Transposes1, Transposes2, true, Fixed::First>(call);
+    ofFixed.template operator()<Fixed::None>();
+}
+
+// One pair, without the road to another level.
+template <class T, int Order, bool Transposes1, bool Transposes2>
+ZEPM_INLINE void multiplyPair(const MatrixOperand& a, const MatrixOperand& b, const MatrixOperand& d)
+{
+    auto multiply = [&]<bool Solid>() __attribute__((always_inline))
+    {
+        using These = Factors<T, Order, Transposes1, Transposes2, Solid>;
+        using All = typename These::template Panels<laneElements<T>>;
+        const typename These::Object objectA[]{{a.p, a.stride1}}, objectB[]{{b.p, b.stride1}},
+            objectD[]{{d.p, d.stride1}};
+        All(objectA, objectB).template multiply<Fixed::None>(objectA, objectB, objectD);
+    };
+    constexpr ptrdiff_t rowSize = Order * sz<T>;
+    a.stride1 == rowSize&& b.stride1 == rowSize&& d.stride1 == rowSize ? multiply.template operator()<true>()
+                                                                       : multiply.template operator()<false>();
+}
+
+} // namespace zepm::ZEPM_LEVEL

@@ -1,0 +1,299 @@
+// LU factors with partial pivoting. Rows are never moved in memory: the pivots tell which row stands where.
+//
+// Orders 3 to 6 are straight-line code on a local matrix, in arrays one matrix in each lane. All other orders are
+// eliminated in the destination.
+#include "solver/factor.h"
+#include "solver/groups.h"
+
+namespace zepm::ZEPM_LEVEL
+{
+
+namespace
+{
+
+// ---- Orders 3 to 6 --------------------------------------------------------------------------------------------------
+
+// A pivot below this is singular at orders 3 to 6: twice the smallest normal number.
+template <class T>
+inline constexpr T tiny = sizeof(T) == 4 ? static_cast<T>(0x1p-125) : static_cast<T>(0x1p-1021);
+
+// One matrix, or one in each lane: its rows in the order of the pivots, row[p] telling where row p of a stands.
+template <class T, int N, int W>
+struct Local
+{
+    Vec<T, W> a[N][N];
+    Vec<IntOf<T>, W> row[N];
+};
+
+// Brings the largest element of column p at or below the diagonal to the diagonal; of equal ones the first.
+template <class T, int N, int W>
+ZEPM_INLINE void choosePivot(Local<T, N, W>& m, int p)
+{
+    Mask<T, W> isPivot[N];
+    Vec<T, W> best = absolute(m.a[p][p]);
+    ZEPM_UNROLL
+    for (int i = p + 1; i < N; ++i)
+    {
+        const Vec<T, W> candidate = absolute(m.a[i][p]);
+        const Mask<T, W> isBetter = candidate > best;
+        ZEPM_UNROLL
+        for (int e = p + 1; e < i; ++e) isPivot[e] = butNot(isPivot[e], isBetter);
+        isPivot[i] = isBetter;
+        best = isBetter ? candidate : best;
+    }
+    ZEPM_UNROLL
+    for (int i = p + 1; i < N; ++i)
+    {
+        ZEPM_UNROLL
+        for (int j = 0; j < N; ++j) exchange(isPivot[i], m.a[p][j], m.a[i][j]);
+        exchange(isPivot[i], m.row[p], m.row[i]);
+    }
+}
+
+// Multipliers of column p by one reciprocal, but the last one by a division; the rows below less their multiple of the
+// pivot row.
+template <class T, int N, int W>
+ZEPM_INLINE void clearColumn(Local<T, N, W>& m, int p)
+{
+    if (p == N - 2)
+        m.a[N - 1][p] = m.a[N - 1][p] / m.a[p][p];
+    else
+    {
+        const Vec<T, W> reciprocal = broadcast<T, W>(1) / m.a[p][p];
+        ZEPM_UNROLL
+        for (int i = p + 1; i < N; ++i) m.a[i][p] = m.a[i][p] * reciprocal;
+    }
+    ZEPM_UNROLL
+    for (int i = p + 1; i < N; ++i)
+    {
+        ZEPM_UNROLL
+        for (int j = p + 1; j < N; ++j) m.a[i][j] = m.a[i][j] - m.a[i][p] * m.a[p][j];
+    }
+}
+
+// The number of pivots that are not singular in any lane: N, or the step at which it ends.
+template <class T, int N, int W>
+[[gnu::noinline]] int eliminate(Local<T, N, W>& result)
+{
+    Local<T, N, W> m = result;
+    int p = 0;
+    ZEPM_UNROLL
+    for (; p < N; ++p)
+    {
+        if (p < N - 1) choosePivot(m, p);
+        if (any(absolute(m.a[p][p]) < broadcast<T, W>(tiny<T>))) break;
+        if (p < N - 1) clearColumn(m, p);
+    }
+    result = m;
+    return p;
+}
+
+template <class T, int N, int W, class Source>
+ZEPM_INLINE void read(Local<T, N, W>& m, const Group<Source, W>& source)
+{
+    readMatrix<T>(source, m.a);
+    ZEPM_UNROLL
+    for (int32 i = 0; i < N; ++i) m.row[i] = broadcast<IntOf<T>, W>(i);
+}
+
+template <class T, int N, int W>
+ZEPM_INLINE LaneRows<W> rowsOf(const Local<T, N, W>& m, int p)
+{
+    LaneRows<W> rows;
+    if constexpr (W == 1)
+        rows.row[0] = static_cast<int32>(m.row[p]);
+    else
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n) rows.row[n] = static_cast<int32>(m.row[p][n]);
+    }
+    return rows;
+}
+
+// One matrix: the rows of the pivots in front of a singular one are written.
+template <class T, int N, class Source, class Destination>
+[[gnu::noinline]] Status factorOne(const Group<Source, 1>& source, const PivotObject<int32>& pivots,
+                                   const Group<Destination, 1>& destination)
+{
+    Local<T, N, 1> m;
+    read(m, source);
+    const int accepted = eliminate(m);
+    for (int p = 0; p < N; ++p)
+    {
+        const LaneRows<1> rows = rowsOf(m, p);
+        pivots.set(p, rows.row[0]);
+        if (p < accepted) destination.template writeRow<N>(rows, m.a[p]);
+    }
+    return accepted == N ? stsOk : stsSingularErr;
+}
+
+// A group, if none of its matrices is singular; otherwise nothing is written.
+template <class T, int N, int W, class Source, class Destination>
+[[gnu::noinline]] bool factorGroup(const Group<Source, W>& source, const GroupPivots<int32, N, W>& pivots,
+                                   const Group<Destination, W>& destination)
+{
+    Local<T, N, W> m;
+    read(m, source);
+    if (eliminate(m) < N) return false;
+    pivots.template writeLanes<IntOf<T>>(m.row);
+    if constexpr (permutesRows)
+    {
+        Vec<T, W> d[N][N];
+        putRows(m.a, m.row, d);
+        writeMatrix<T>(destination, d);
+    }
+    else
+    {
+        ZEPM_UNROLL
+        for (int p = 0; p < N; ++p) destination.template writeRow<N>(rowsOf(m, p), m.a[p]);
+    }
+    return true;
+}
+
+// The first singular matrix ends the call: a group with one is done again matrix by matrix.
+template <class T, int N, class X, class Source, class Destination>
+ZEPM_INLINE Status factorUnrolled(const X& x, const Source& source, const Destination& destination)
+{
+    if constexpr (!decltype(x.dst)::isArray)
+        return factorOne<T, N>(groupOf<1>(source, 0, 1), x.pivots.object(0, N), groupOf<1>(destination, 0, 1));
+    else
+    {
+        constexpr int W = lanes<T>;
+        constexpr int leastGroup = 2; // fewer matrices are not worth a group
+        for (int32 left = x.count; left > 0; left -= W)
+        {
+            const int32 k = x.count - left;
+            const int32 size = left < W ? left : W;
+            if (size >= leastGroup &&
+                factorGroup<T, N>(groupOf<W>(source, k, size), GroupPivots<int32, N, W>(x.pivots, k, size),
+                                  groupOf<W>(destination, k, size)))
+                continue;
+            for (int32 n = k; n < k + size; ++n)
+                if (const Status status =
+                        factorOne<T, N>(groupOf<1>(source, n, 1), x.pivots.object(n, N), groupOf<1>(destination, n, 1)))
+                    return status;
+        }
+        return stsOk;
+    }
+}
+
+// ---- All other orders -----------------------------------------------------------------------------------------------
+
+// A pivot at or below this is singular at all other orders.
+template <class T>
+inline constexpr T eps = sizeof(T) == 4 ? static_cast<T>(0x1p-23) : static_cast<T>(0x1p-52);
+
+// Columns first to n - 1 of row i less multiplier times those of row p.
+template <class T>
+ZEPM_INLINE void subtractRow(const StridedObject<T, true>& d, int32 i, T multiplier, int32 p, int32 first, int32 n)
+{
+    char* const row = d.at(i, 0);
+    const char* const pivotRow = d.at(p, 0);
+    ptrdiff_t j = first;
+    auto step = [&]<int M>() __attribute__((always_inline))
+    {
+        const ptrdiff_t at = j * static_cast<ptrdiff_t>(sizeof(T));
+        storeVec<T, M>(row + at, loadVec<T, M>(row + at) - broadcast<T, M>(multiplier) * loadVec<T, M>(pivotRow + at));
+        j += M;
+    };
+    while (n - j >= lanes<T>) step.template operator()<lanes<T>>();
+    if constexpr (lanes < T >> 8)
+    {
+        if (n - j >= 8) step.template operator()<8>();
+    }
+    if constexpr (lanes < T >> 4)
+    {
+        if (n - j >= 4) step.template operator()<4>();
+    }
+    for (; j < n;) step.template operator()<1>();
+}
+template <class T, class Destination>
+ZEPM_INLINE void subtractRow(const Destination& d, int32 i, T multiplier, int32 p, int32 first, int32 n)
+{
+    for (int32 j = first; j < n; ++j) d.set(i, j, d.get(i, j) - multiplier * d.get(p, j));
+}
+
+template <class T, class Source, class Destination>
+[[gnu::noinline]] Status ownLUDecompGeneral(const Source& source, const PivotObject<int32>& pivots,
+                                            const Destination& d, int32 n)
+{
+    for (int32 i = 0; i < n; ++i)
+    {
+        for (int32 j = 0; j < n; ++j) d.set(i, j, source.get(i, j));
+        pivots.set(i, i);
+    }
+    for (int32 p = 0; p < n - 1; ++p)
+    {
+        T best = absolute(d.get(pivots.get(p), p));
+        int32 q = p;
+        for (int32 i = p + 1; i < n; ++i)
+        {
+            const T candidate = absolute(d.get(pivots.get(i), p));
+            if (candidate > best)
+            {
+                best = candidate;
+                q = i;
+            }
+        }
+        if (best <= eps<T>) return stsSingularErr;
+        const int32 pivotRow = pivots.get(q);
+        if (q != p)
+        {
+            pivots.set(q, pivots.get(p));
+            pivots.set(p, pivotRow);
+        }
+        const T reciprocal = 1 / d.get(pivotRow, p);
+        for (int32 i = p + 1; i < n; ++i)
+        {
+            const int32 row = pivots.get(i);
+            const T multiplier = d.get(row, p) * reciprocal;
+            d.set(row, p, multiplier);
+            subtractRow<T>(d, row, multiplier, pivotRow, p + 1, n);
+        }
+    }
+    return absolute(d.get(pivots.get(n - 1), n - 1)) <= eps<T> ? stsSingularErr : stsOk;
+}
+
+} // namespace
+
+// The test on the order comes once a call, outside the loop over matrices.
+template <bool Contiguous, class X>
+Status factor(const X& x)
+{
+    using T = typename decltype(x.dst)::Element;
+    const int32 n = x.widthHeight;
+    const auto source = x.src.template view<Contiguous>(n);
+    const auto destination = x.dst.template view<Contiguous>(n);
+    switch (n)
+    {
+    case 3: return factorUnrolled<T, 3>(x, source, destination);
+    case 4: return factorUnrolled<T, 4>(x, source, destination);
+    case 5: return factorUnrolled<T, 5>(x, source, destination);
+    case 6: return factorUnrolled<T, 6>(x, source, destination);
+    default: break;
+    }
+    for (int32 k = 0; k < x.count; ++k)
+        if (const Status status =
+                ownLUDecompGeneral<T>(source.object(k), x.pivots.object(k, n), destination.object(k), n))
+            return status;
+    return stsOk;
+}
+
+template Status factor<true, FactorM<float32, S>>(const FactorM<float32, S>&);
+template Status factor<false, FactorM<float32, S>>(const FactorM<float32, S>&);
+template Status factor<false, FactorM<float32, P>>(const FactorM<float32, P>&);
+template Status factor<true, FactorMa<float32, S>>(const FactorMa<float32, S>&);
+template Status factor<false, FactorMa<float32, S>>(const FactorMa<float32, S>&);
+template Status factor<true, FactorMa<float32, L>>(const FactorMa<float32, L>&);
+template Status factor<false, FactorMa<float32, L>>(const FactorMa<float32, L>&);
+template Status factor<false, FactorMa<float32, P>>(const FactorMa<float32, P>&);
+template Status factor<true, FactorM<float64, S>>(const FactorM<float64, S>&);
+template Status factor<false, FactorM<float64, S>>(const FactorM<float64, S>&);
+template Status factor<false, FactorM<float64, P>>(const FactorM<float64, P>&);
+template Status factor<true, FactorMa<float64, S>>(const FactorMa<float64, S>&);
+template Status factor<false, FactorMa<float64, S>>(const FactorMa<float64, S>&);
+template Status factor<true, FactorMa<float64, L>>(const FactorMa<float64, L>&);
+template Status factor<false, FactorMa<float64, L>>(const FactorMa<float64, L>&);
+template Status factor<false, FactorMa<float64, P>>(const FactorMa<float64, P>&);
+
+} // namespace zepm::ZEPM_LEVEL
