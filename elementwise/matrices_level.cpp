@@ -20,18 +20,19 @@ inline constexpr bool takesTransposed = !takesConstant<Op> && !std::is_same_v<Op
 // ---- Rows -----------------------------------------------------------------------------------------------------------
 
 // An operand object by object; a fixed one is never a list.
+template <bool IsListCall>
 struct Objects
 {
     const char* p;
     ptrdiff_t step, shift;
     bool isList;
-    ZEPM_INLINE Objects(const MatrixCall& c, const RowOperand& operand)
+    ZEPM_INLINE explicit Objects(const RowOperand& operand)
         : p(operand.p),
           step(operand.isFixed ? 0
-               : c.isList      ? static_cast<ptrdiff_t>(sizeof(char*))
+               : IsListCall    ? static_cast<ptrdiff_t>(sizeof(char*))
                                : operand.stride),
           shift(operand.stride),
-          isList(c.isList && !operand.isFixed)
+          isList(IsListCall && !operand.isFixed)
     {
     }
     ZEPM_INLINE const char* at() const { return isList ? load<const char*>(p) + shift : p; }
@@ -49,10 +50,10 @@ ZEPM_INLINE bool ofRows(const MatrixCall& c, F f)
 ZEPM_INLINE RowOperand rowByRow(const RowOperand& operand, const char* p) { return {p, operand.rowStride, false, 0}; }
 
 // Gapped rows of few elements, object by object: in rowOf b is a pointer, or the constant.
-template <int Width, class T, class Op>
+template <int Width, bool IsList, class T, class Op>
 [[gnu::noinline]] void shortRowsOfEach(Op op, const MatrixCall& c)
 {
-    Objects a(c, c.a), b(c, c.b), d(c, c.d);
+    Objects<IsList> a(c.a), b(c.b), d(c.d);
     const ptrdiff_t count = c.count, height = c.height;
     const ptrdiff_t strideA = c.a.rowStride, strideB = c.b.rowStride, strideD = c.d.rowStride;
     T constant{};
@@ -77,11 +78,11 @@ template <int Width, class T, class Op>
     }
 }
 
-// Gapped rows of many elements: the rows of each object by themselves.
-template <class Op, class T>
+// Gapped rows of any length: the rows of each object by themselves.
+template <bool IsList, class Op, class T>
 [[gnu::noinline]] void longRowsOfEach(const MatrixCall& c)
 {
-    Objects a(c, c.a), b(c, c.b), d(c, c.d);
+    Objects<IsList> a(c.a), b(c.b), d(c.d);
     for (ptrdiff_t k = 0; k < c.count; ++k)
     {
         ZEPM_LEVEL::combineRows<Op, T>({rowByRow(c.a, a.at()), c.isConstant ? c.b : rowByRow(c.b, b.at()),
@@ -90,16 +91,18 @@ template <class Op, class T>
     }
 }
 
-template <class Op, class T>
+template <bool IsList, class Op, class T>
 ZEPM_INLINE void combineGapped(const MatrixCall& c)
 {
     switch (c.width)
     {
-    case 3: return shortRowsOfEach<3, T>(Op{}, c);
-    case 4: return shortRowsOfEach<4, T>(Op{}, c);
-    case 5: return shortRowsOfEach<5, T>(Op{}, c);
-    case 6: return shortRowsOfEach<6, T>(Op{}, c);
-    default: return longRowsOfEach<Op, T>(c);
+    case 3: return shortRowsOfEach<3, IsList, T>(Op{}, c);
+    case 4: return shortRowsOfEach<4, IsList, T>(Op{}, c);
+    case 5: return shortRowsOfEach<5, IsList, T>(Op{}, c);
+    case 6: return shortRowsOfEach<6, IsList, T>(Op{}, c);
+    case 8: return shortRowsOfEach<8, IsList, T>(Op{}, c);
+    case 16: return shortRowsOfEach<16, IsList, T>(Op{}, c);
+    default: return longRowsOfEach<IsList, Op, T>(c);
     }
 }
 
@@ -123,7 +126,7 @@ ZEPM_INLINE void combineAsRows(const MatrixCall& c)
         rows.count *= c.height;
         return ZEPM_LEVEL::combineRows<Op, T>(rows);
     }
-    combineGapped<Op, T>(c);
+    c.isList ? combineGapped<true, Op, T>(c) : combineGapped<false, Op, T>(c);
 }
 
 // ---- Tiles ----------------------------------------------------------------------------------------------------------
@@ -211,18 +214,19 @@ struct Tiles
     }
 };
 
-// The tiles of orders 3 to 6: of four elements, but pairs of doubles where a third would take a load of its own.
+// The tiles of orders 3 to 6: of four elements. The rows of order 3 would take two loads each, so it has pairs of
+// doubles, and single floats.
 template <class T, int Order>
 constexpr int tileSize()
 {
-    const int best = Order == 3 && sizeof(T) == 8 ? 2 : 4;
+    const int best = Order != 3 ? 4 : sizeof(T) == 8 ? 2 : 1;
     return best < lanes<T> ? best : lanes<T>;
 }
 
-template <int Order, Second second, ptrdiff_t RowSize, class T, class Op>
+template <int Order, Second second, bool IsList, ptrdiff_t RowSize, class T, class Op>
 [[gnu::noinline]] void tilesOfEach(Op op, const MatrixCall& c)
 {
-    Objects a(c, c.a), b(c, c.b), d(c, c.d);
+    Objects<IsList> a(c.a), b(c.b), d(c.d);
     T constant{};
     if constexpr (second == Second::Constant) constant = load<T>(c.b.p);
     const ptrdiff_t count = c.count, width = c.width, height = c.height;
@@ -304,19 +308,19 @@ ZEPM_INLINE void squareOfEach(Op op, const MatrixCall& c)
         return ofRows(c, [size](const RowOperand& x) { return x.rowStride == size; });
     };
     constexpr ptrdiff_t dense = Order * sz<T>, records = 4 * sz<T>;
+    if (c.isList) return tilesOfEach<Order, second, true, 0, T>(op, c);
     if (hasRowsOf(dense))
     {
         if constexpr (Whole<T, Order>::fits)
-        {
-            if (!c.isList) return wholeOfEach<Order, second, T>(op, c);
-        }
-        return tilesOfEach<Order, second, dense, T>(op, c);
+            return wholeOfEach<Order, second, T>(op, c);
+        else
+            return tilesOfEach<Order, second, false, dense, T>(op, c);
     }
     if constexpr (Order == 3)
     {
-        if (hasRowsOf(records)) return tilesOfEach<Order, second, records, T>(op, c);
+        if (hasRowsOf(records)) return tilesOfEach<Order, second, false, records, T>(op, c);
     }
-    tilesOfEach<Order, second, 0, T>(op, c);
+    tilesOfEach<Order, second, false, 0, T>(op, c);
 }
 
 template <Second second, class T, class Op>
@@ -328,7 +332,7 @@ ZEPM_INLINE void combineTransposed(Op op, const MatrixCall& c)
     case 4: return squareOfEach<4, second, T>(op, c);
     case 5: return squareOfEach<5, second, T>(op, c);
     case 6: return squareOfEach<6, second, T>(op, c);
-    default: return tilesOfEach<0, second, 0, T>(op, c);
+    default: return c.isList ? tilesOfEach<0, second, true, 0, T>(op, c) : tilesOfEach<0, second, false, 0, T>(op, c);
     }
 }
 

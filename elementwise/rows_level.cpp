@@ -323,9 +323,9 @@ ZEPM_INLINE ptrdiff_t rowsToAlignment(const RowCall& c)
     return -1;
 }
 
-// Matrices of orders 3 to 6 are rows of 9 to 36 elements; those have groups, but no code for single rows.
+// Matrices of orders 3 to 6 are rows of 9 to 36 elements: those have groups, but odd lengths no code for single rows.
 template <int Length>
-inline constexpr int singleLength = Length > 6 ? 0 : Length;
+inline constexpr int singleLength = Length > 6 && Length % 16 != 0 ? 0 : Length;
 
 // Dense rows in groups, and what is left over one by one.
 template <class T, int Length, bool isConstant, class Op>

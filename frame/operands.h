@@ -375,8 +375,8 @@ struct TransposedBlock : Matrix
     template <bool Contiguous>
     ZEPM_INLINE auto view(int32 rowLength) const
     {
-        return TransposedView<decltype(Matrix::template view<Contiguous>(rowLength))>{
-            Matrix::template view<Contiguous>(rowLength)};
+        auto stored = Matrix::template view<Contiguous>(rowLength);
+        return TransposedView<decltype(stored)>{stored};
     }
 };
 
