@@ -14,8 +14,12 @@ namespace
 int32 highestCpuLevel()
 {
     __builtin_cpu_init();
+#ifdef ZEPM_WITHOUT_AVX512
+    const bool avx512 = false;
+#else
     const bool avx512 = __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") &&
                         __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bw");
+#endif
     if (__builtin_cpu_supports("avx2")) return avx512 ? 2 : 1;
     return 0;
 }

@@ -8,11 +8,13 @@ namespace zepm
 {
 
 template <class Function>
-ZEPM_INLINE Function* atLevel(Function* ssse3, Function* avx2, Function* avx512)
+ZEPM_INLINE Function* atLevel(Function* ssse3, Function* avx2, [[maybe_unused]] Function* avx512)
 {
     const int32 level = ownGetCpuLevel();
+#ifndef ZEPM_WITHOUT_AVX512
     if (level >= 2) return avx512;
-    return level == 1 ? avx2 : ssse3;
+#endif
+    return level >= 1 ? avx2 : ssse3;
 }
 
 } // namespace zepm

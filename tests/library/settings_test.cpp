@@ -192,6 +192,9 @@ int32 highestLevel()
         ;
     auto has = [&](const char* feature) { return (line + " ").find(std::string(" ") + feature + " ") != line.npos; };
     if (!has("avx2")) return 0;
+#ifdef ZEPM_WITHOUT_AVX512
+    return 1;
+#endif
     return has("avx512f") && has("avx512vl") && has("avx512dq") && has("avx512bw") ? 2 : 1;
 }
 
