@@ -63,12 +63,15 @@ ZEPM_INLINE void combineObject(Op op, const A& a, const B& b, const D& d, int32 
 template <int32 Width, int32 Height, class Op, class A, class B, class D>
 ZEPM_INLINE void combineWritten(Op op, const A& a, const B& b, const D& d)
 {
-    ZEPM_UNROLL
-    for (int32 i = 0; i < Height; ++i)
+    auto row = [&](int32 i) __attribute__((always_inline))
     {
         ZEPM_UNROLL
         for (int32 j = 0; j < Width; ++j) d.set(i, j, op(a.get(i, j), b.get(i, j)));
-    }
+    };
+    if constexpr (Height == 3)
+        row(0), row(1), row(2);
+    else
+        for (int32 i = 0; i < Height; ++i) row(i);
 }
 
 // The test on the size comes once a call, outside the loop over objects.

@@ -44,6 +44,10 @@ struct Times
     }
 };
 
+// The second operand of Times is a constant always: there is no function for the product element by element.
+template <class Op>
+inline constexpr bool takesConstantAlone = std::is_same_v<Op, Times>;
+
 // The same operation with its operands in the other order.
 ZEPM_INLINE Plus flipped(Plus) { return {}; }
 ZEPM_INLINE MinusFrom flipped(Minus) { return {}; }

@@ -199,22 +199,28 @@ ZEPM_INLINE auto fixedRow(const RowOperand& operand)
         return Elements<T, Stepping>{Stepping(operand)};
 }
 
+// Lengths with code of their own for a constant for each row: those of vectors.
+template <int Length>
+inline constexpr bool takesConstants = Length <= 6;
+
 template <class T, int Length, class Lying, class Op>
 [[gnu::noinline]] void rowsOf(Op op, const RowCall& c)
 {
-    const Elements<T, Lying> a{Lying(c.a)}, b{Lying(c.b)};
-    const Constants<T, Lying> constants{Lying(c.b)};
+    const Elements<T, Lying> a{Lying(c.a)};
     const Lying d(c.d);
-    if (c.isConstant && c.b.isFixed)
-        rows<T, Length>(op, a, OneConstant<T>{load<T>(c.b.p)}, d, c.width, c.count);
-    else if (c.isConstant && c.a.isFixed)
-        rows<T, Length>(op, fixedRow<T, Length>(c.a), constants, d, c.width, c.count);
-    else if (c.isConstant)
-        rows<T, Length>(op, a, constants, d, c.width, c.count);
-    else if (c.b.isFixed)
-        rows<T, Length>(op, a, fixedRow<T, Length>(c.b), d, c.width, c.count);
-    else
-        rows<T, Length>(op, a, b, d, c.width, c.count);
+    if (c.isConstant && c.b.isFixed) return rows<T, Length>(op, a, OneConstant<T>{load<T>(c.b.p)}, d, c.width, c.count);
+    if constexpr (takesConstants<Length>)
+    {
+        if (c.isConstant)
+        {
+            const Constants<T, Lying> b{Lying(c.b)};
+            return c.a.isFixed ? rows<T, Length>(op, fixedRow<T, Length>(c.a), b, d, c.width, c.count)
+                               : rows<T, Length>(op, a, b, d, c.width, c.count);
+        }
+    }
+    if constexpr (!takesConstantAlone<Op>)
+        c.b.isFixed ? rows<T, Length>(op, a, fixedRow<T, Length>(c.b), d, c.width, c.count)
+                    : rows<T, Length>(op, a, Elements<T, Lying>{Lying(c.b)}, d, c.width, c.count);
 }
 
 // How many dense rows fill whole registers together; with constants it is as many as a register holds.
@@ -228,26 +234,23 @@ constexpr int groupSize()
 }
 
 // Dense rows of few elements in groups of whole registers: count of them, each a row of its own.
-template <class T, int Length, bool Streams, class Op>
-[[gnu::noinline]] void groupsWithConstants(Op op, const RowCall& c, ptrdiff_t count)
+template <class T, int Length, bool isConstant, bool Streams, class Op>
+[[gnu::noinline]] void groupsOf(Op op, const RowCall& c, ptrdiff_t count)
 {
-    constexpr int size = groupSize<T, Length, true>();
-    constexpr ptrdiff_t groupBytes = size * Length * sz<T>;
-    const Stepping a({c.a.p, groupBytes, false, 0}), d({c.d.p, groupBytes, false, 0});
-    const Spread<T, Length> b{c.b.p};
-    if (c.a.isFixed)
-        rows<T, Length * size, Streams>(op, Held<T, Length, size>(c.a.p), b, d, 0, count);
-    else
-        rows<T, Length * size, Streams>(op, Elements<T, Stepping>{a}, b, d, 0, count);
-}
-template <class T, int Length, bool Streams, class Op>
-[[gnu::noinline]] void groupsWithFixed(Op op, const RowCall& c, ptrdiff_t count)
-{
-    constexpr int size = groupSize<T, Length, false>();
+    constexpr int size = groupSize<T, Length, isConstant>();
     constexpr ptrdiff_t groupBytes = size * Length * sz<T>;
     const Elements<T, Stepping> a{Stepping({c.a.p, groupBytes, false, 0})};
     const Stepping d({c.d.p, groupBytes, false, 0});
-    rows<T, Length * size, Streams>(op, a, Held<T, Length, size>(c.b.p), d, 0, count);
+    auto along = [&](auto first, auto second) __attribute__((always_inline))
+    {
+        rows<T, Length * size, Streams>(op, first, second, d, 0, count);
+    };
+    if constexpr (!isConstant)
+        along(a, Held<T, Length, size>(c.b.p));
+    else if (c.a.isFixed)
+        along(Held<T, Length, size>(c.a.p), Spread<T, Length>{c.b.p});
+    else
+        along(a, Spread<T, Length>{c.b.p});
 }
 
 // ---- The call -------------------------------------------------------------------------------------------------------
@@ -278,7 +281,7 @@ ZEPM_INLINE bool isGrouped(const RowCall& c)
 // A row beyond the largest cache is stored past the caches, which saves reading the destination first; in place it is
 // read anyway.
 template <class T>
-ZEPM_INLINE bool isBeyondCaches(const RowCall& c, ptrdiff_t n)
+[[gnu::noinline]] bool isBeyondCaches(const RowCall& c, ptrdiff_t n)
 {
     constexpr ptrdiff_t least = 1 << 20;
     if (n < least || c.a.p == c.d.p || c.b.p == c.d.p || reinterpret_cast<uintptr_t>(c.d.p) % sizeof(T) != 0)
@@ -302,7 +305,7 @@ template <class T, class Op>
 }
 
 // The rows of a call from row k on.
-ZEPM_INLINE RowCall restOf(const RowCall& c, ptrdiff_t k)
+[[gnu::noinline]] RowCall restOf(const RowCall& c, ptrdiff_t k)
 {
     RowCall rest = c;
     auto skip = [&](RowOperand & operand) __attribute__((always_inline))
@@ -316,7 +319,7 @@ ZEPM_INLINE RowCall restOf(const RowCall& c, ptrdiff_t k)
 
 // Dense rows before the first that starts a register of the destination, or -1 where none does.
 template <class T>
-ZEPM_INLINE ptrdiff_t rowsToAlignment(const RowCall& c)
+[[gnu::noinline]] ptrdiff_t rowsToAlignment(const RowCall& c)
 {
     for (ptrdiff_t k = 0; k < lanes<T>; ++k)
         if (reinterpret_cast<uintptr_t>(c.d.p + k * c.d.stride) % registerBytes == 0) return k;
@@ -327,27 +330,27 @@ ZEPM_INLINE ptrdiff_t rowsToAlignment(const RowCall& c)
 template <int Length>
 inline constexpr int singleLength = Length > 6 && Length % 16 != 0 ? 0 : Length;
 
-// Dense rows in groups, and what is left over one by one.
+// Dense rows in groups, and what is left over one by one. Rows that are stored past the caches begin with the first that
+// starts a register of the destination.
 template <class T, int Length, bool isConstant, class Op>
-[[gnu::noinline]] void grouped(Op op, const RowCall& c)
+[[gnu::noinline]] void grouped(Op op, RowCall c)
 {
     constexpr ptrdiff_t size = groupSize<T, Length, isConstant>();
-    auto groupsOf = [&]<bool Streams>(const RowCall& part) __attribute__((always_inline))
-    {
-        const ptrdiff_t count = part.count / size;
-        if constexpr (isConstant)
-            groupsWithConstants<T, Length, Streams>(op, part, count);
-        else
-            groupsWithFixed<T, Length, Streams>(op, part, count);
-        if (count * size < part.count) rowsOf<T, singleLength<Length>, Stepping>(op, restOf(part, count * size));
-    };
+    const auto one = rowsOf<T, singleLength<Length>, Stepping, Op>;
     const ptrdiff_t first = isBeyondCaches<T>(c, c.width * c.count) ? rowsToAlignment<T>(c) : -1;
-    if (first < 0) return groupsOf.template operator()<false>(c);
-    RowCall head = c;
-    head.count = first;
-    rowsOf<T, singleLength<Length>, Stepping>(op, head);
-    groupsOf.template operator()<true>(restOf(c, first));
-    fenceStreams();
+    if (first > 0)
+    {
+        RowCall head = c;
+        head.count = first;
+        one(op, head);
+        c = restOf(c, first);
+    }
+    const ptrdiff_t count = c.count / size;
+    if (first < 0)
+        groupsOf<T, Length, isConstant, false>(op, c, count);
+    else
+        groupsOf<T, Length, isConstant, true>(op, c, count), fenceStreams();
+    if (count * size < c.count) one(op, restOf(c, count * size));
 }
 
 template <class T, int Length, class Op>
@@ -357,8 +360,9 @@ ZEPM_INLINE void rowsInOrder(Op op, const RowCall& call)
     {
         if (isGrouped<T>(call))
         {
-            if (!call.isConstant) return grouped<T, Length, false>(op, call);
-            if constexpr (Length <= 6) return grouped<T, Length, true>(op, call);
+            if constexpr (takesConstants<Length>)
+                if (call.isConstant) return grouped<T, Length, true>(op, call);
+            if constexpr (!takesConstantAlone<Op>) return grouped<T, Length, false>(op, call);
         }
     }
     call.isList ? rowsOf<T, singleLength<Length>, Listed>(op, call)
@@ -374,7 +378,8 @@ void combineRows(const RowCall& c)
     // A fixed operand stands second; what is first with constants has code of its own.
     if (c.a.isFixed && !c.isConstant)
         return ZEPM_LEVEL::combineRows<decltype(flipped(Op{})), T>({c.b, c.a, c.d, false, c.isList, c.width, c.count});
-    switch (c.width)
+    const bool hasConstants = c.isConstant && !c.b.isFixed;
+    switch (hasConstants && c.width > 6 ? 0 : c.width)
     {
     case 3: return rowsInOrder<T, 3>(Op{}, c);
     case 4: return rowsInOrder<T, 4>(Op{}, c);

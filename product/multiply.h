@@ -73,12 +73,8 @@ ZEPM_INLINE auto sumInPairs(const A& a, const B& b, int32 i, int32 j, int32 inne
 template <int32 Order, class A, class B, class D>
 ZEPM_INLINE void multiplyOrder(const A& a, const B& b, const D& d)
 {
-    ZEPM_UNROLL
     for (int32 i = 0; i < Order; ++i)
-    {
-        ZEPM_UNROLL
         for (int32 j = 0; j < Order; ++j) d.set(i, j, sumFromFirst<Order>(a, b, i, j));
-    }
 }
 
 // The rows from firstInPairs on sum in pairs.
