@@ -140,6 +140,17 @@ ZEPM_INLINE Vec<T, 4> lane4(Vec<T, 4> x)
     return __builtin_shufflevector(x, x, Lane, Lane, Lane, Lane);
 }
 
+// Each element summed in index order. Wider registers would save one product less than the choice of a level costs.
+ZEPM_INLINE Matrix4<float32> product(const Matrix4<float32>& a, const Matrix4<float32>& b)
+{
+    Matrix4<float32> d;
+    ZEPM_UNROLL
+    for (int i = 0; i < 4; ++i)
+        d.row[i] = lane4<0, float32>(a.row[i]) * b.row[0] + lane4<1, float32>(a.row[i]) * b.row[1] +
+                   lane4<2, float32>(a.row[i]) * b.row[2] + lane4<3, float32>(a.row[i]) * b.row[3];
+    return d;
+}
+
 // ---- Points ---------------------------------------------------------------------------------------------------------
 
 // The formula with whole rows for elements: a result of fewer than four elements has anything behind them.

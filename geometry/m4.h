@@ -1,4 +1,4 @@
-// Operations on 4 by 4 matrices, compiled for each instruction-set level from m4_level.cpp. A result may be a source.
+// Inverses of 4 by 4 matrices, compiled for each instruction-set level from m4_level.cpp. A result may be a source.
 #pragma once
 
 #include "frame/levels.h"
@@ -9,8 +9,6 @@ namespace zepm
 #define ZEPM_DECLARE_LEVEL(level)                                                                                      \
     namespace level                                                                                                    \
     {                                                                                                                  \
-    Status multiply(const float32* pSrc1, const float32* pSrc2, float32* pDst);                                        \
-    Status multiplyTransposed(const float32* pSrc1, const float32* pSrc2, float32* pDst);                              \
     Status invert(const float32* pSrc, float32* pDet, float32* pDst);                                                  \
     Status invertInFloat64(const float32* pSrc, float32* pDst);                                                        \
     }

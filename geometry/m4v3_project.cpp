@@ -11,16 +11,10 @@ namespace
 {
 
 // World, view and projection in one.
-struct Combined
+Matrix4<float32> combined(const float32* pProj, const float32* pView, const float32* pWorld)
 {
-    float32 e[16];
-    Combined(const float32* pProj, const float32* pView, const float32* pWorld)
-    {
-        const auto multiply = atLevel(ssse3::multiply, avx2::multiply, avx512::multiply);
-        multiply(pWorld, pView, e);
-        multiply(e, pProj, e);
-    }
-};
+    return product(product(loadMatrix(pWorld), loadMatrix(pView)), loadMatrix(pProj));
+}
 
 // The way back, or why there is none.
 struct CombinedInverse
@@ -29,8 +23,8 @@ struct CombinedInverse
     Status status;
     CombinedInverse(const float32* pProj, const float32* pView, const float32* pWorld)
     {
-        const Combined m(pProj, pView, pWorld);
-        status = atLevel(ssse3::invertInFloat64, avx2::invertInFloat64, avx512::invertInFloat64)(m.e, e);
+        storeMatrix(e, combined(pProj, pView, pWorld));
+        status = atLevel(ssse3::invertInFloat64, avx2::invertInFloat64, avx512::invertInFloat64)(e, e);
     }
 };
 
@@ -53,7 +47,7 @@ Status zepmProject_m4v3a_32f(const float32* pProj, const float32* pView, const f
                              float32* pDst, int32 dstStride0, int32 count)
 {
     if (count < 1) return stsOk;
-    const Projection projection{through<Coord<3>>(loadMatrix(Combined(pProj, pView, pWorld).e)),
+    const Projection projection{through<Coord<3>>(combined(pProj, pView, pWorld)),
                                 ToViewport(vpWidth, vpHeight, zMin, zMax)};
     transformPoints(projection, {pSrc, srcStride0}, {pDst, dstStride0}, count);
     return stsOk;
