@@ -3,6 +3,7 @@
 #include "elementwise/row.h"
 #include "elementwise/rows.h"
 #include "elementwise/tile.h"
+#include "frame/streams.h"
 
 namespace zepm::ZEPM_LEVEL
 {
@@ -357,12 +358,10 @@ template <class Op, class T>
     combineAsRows<Op, T>({{to, c.b, c.d, false, c.isList, c.width, c.count}, c.height, false, false});
 }
 
-} // namespace
-
+// The first source, or both, transposed.
 template <class Op, class T>
-void combineMatrices(const MatrixCall& c)
+[[gnu::noinline]] void combineInTiles(const MatrixCall& c)
 {
-    if (!c.isTransposedA) return combineAsRows<Op, T>(c);
     if constexpr (takesConstantAlone<Op>)
     {
         combineTransposed<Second::Constant, T>(Op{}, c);
@@ -376,6 +375,32 @@ void combineMatrices(const MatrixCall& c)
         if (c.a.isFixed && c.count > 1 && c.width * c.height <= copiedBytes / sz<T>) return combineWithCopy<Op, T>(c);
         combineTransposed<Second::Normal, T>(Op{}, c);
     }
+}
+
+// Whether results are to be stored past the caches; in place they are read anyway.
+template <class T>
+ZEPM_INLINE bool isStreamed(const MatrixCall& c)
+{
+    const ptrdiff_t rowSize = c.width * sz<T>, size = c.height * rowSize;
+    const int sources = !c.a.isFixed + (!c.b.isFixed && !c.isConstant);
+    return !c.isList && c.d.rowStride == rowSize && c.d.stride == size && size <= streamedObject &&
+           isBeyondCaches(c.count * size, sources) && c.a.p != c.d.p && c.b.p != c.d.p;
+}
+
+} // namespace
+
+template <class Op, class T>
+void combineMatrices(const MatrixCall& c)
+{
+    if (!c.isTransposedA) return combineAsRows<Op, T>(c);
+    if (!isStreamed<T>(c)) return combineInTiles<Op, T>(c);
+    MatrixCall part = c;
+    streamObjects(const_cast<char*>(c.d.p), c.d.stride, c.count, [&](ptrdiff_t first, ptrdiff_t n, char* to) {
+        auto skip = [&](const RowOperand& x) { return x.isFixed ? x.p : x.p + first * x.stride; };
+        part.a.p = skip(c.a), part.b.p = skip(c.b), part.d.p = to;
+        part.count = n;
+        combineInTiles<Op, T>(part);
+    });
 }
 
 template void combineMatrices<Plus, float32>(const MatrixCall&);

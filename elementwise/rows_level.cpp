@@ -2,6 +2,7 @@
 // on its own two elements, which are read before it is written.
 #include "elementwise/row.h"
 #include "elementwise/rows.h"
+#include "frame/streams.h"
 
 namespace zepm::ZEPM_LEVEL
 {
@@ -278,18 +279,13 @@ ZEPM_INLINE bool isGrouped(const RowCall& c)
            (c.isConstant ? isDense(c.b, sz<T>) : c.b.isFixed || isDense(c.b, size));
 }
 
-// A row beyond the largest cache is stored past the caches, which saves reading the destination first; in place it is
-// read anyway.
+// Whether n elements are to be stored past the caches; in place they are read anyway.
 template <class T>
-[[gnu::noinline]] bool isBeyondCaches(const RowCall& c, ptrdiff_t n)
+[[gnu::noinline]] bool isStreamed(const RowCall& c, ptrdiff_t n)
 {
-    constexpr ptrdiff_t least = 1 << 20;
-    if (n < least || c.a.p == c.d.p || c.b.p == c.d.p || reinterpret_cast<uintptr_t>(c.d.p) % sizeof(T) != 0)
-        return false;
-    const auto streams = [&](const RowOperand& operand) { return c.count == 1 || !operand.isFixed ? 1 : 0; };
-    int32 cacheSize = 0;
-    zepGetMaxCacheSizeB(&cacheSize);
-    return cacheSize > 0 && n > cacheSize / sz<T> / (1 + streams(c.a) + (c.isConstant ? 0 : streams(c.b)));
+    const auto sources = [&](const RowOperand& operand) { return c.count == 1 || !operand.isFixed ? 1 : 0; };
+    return c.a.p != c.d.p && c.b.p != c.d.p && reinterpret_cast<uintptr_t>(c.d.p) % sizeof(T) == 0 &&
+           isBeyondCaches(n * sz<T>, sources(c.a) + (c.isConstant ? 0 : sources(c.b)));
 }
 
 template <class T, class Op>
@@ -299,7 +295,7 @@ template <class T, class Op>
     char* const d = const_cast<char*>(c.d.p);
     auto along = [&](auto b) __attribute__((always_inline))
     {
-        isBeyondCaches<T>(c, n) ? row<T, true>(op, c.a.p, b, d, n) : row<T>(op, c.a.p, b, d, n);
+        isStreamed<T>(c, n) ? row<T, true>(op, c.a.p, b, d, n) : row<T>(op, c.a.p, b, d, n);
     };
     c.isConstant ? along(load<T>(c.b.p)) : along(c.b.p);
 }
@@ -337,7 +333,7 @@ template <class T, int Length, bool isConstant, class Op>
 {
     constexpr ptrdiff_t size = groupSize<T, Length, isConstant>();
     const auto one = rowsOf<T, singleLength<Length>, Stepping, Op>;
-    const ptrdiff_t first = isBeyondCaches<T>(c, c.width * c.count) ? rowsToAlignment<T>(c) : -1;
+    const ptrdiff_t first = isStreamed<T>(c, c.width * c.count) ? rowsToAlignment<T>(c) : -1;
     if (first > 0)
     {
         RowCall head = c;

@@ -1,5 +1,6 @@
 // Formulas over arrays of points: tiles of as many points as a register has lanes, then of four, then single ones. Each
 // point sees the operations of the formula in their order, whatever it goes with.
+#include "frame/streams.h"
 #include "geometry/points.h"
 #include "geometry/tile.h"
 
@@ -165,13 +166,11 @@ ZEPM_INLINE bool isFree(const Source& src, const Destination& dst, ptrdiff_t cou
     return isDisjoint(dst, Formula::out, count) && (from.end <= to.begin || to.end <= from.begin);
 }
 
-} // namespace
-
+// Any order of the points.
 template <class Formula>
-bool transformPointArray(const Formula& formula, const Source& src, const Destination& dst, ptrdiff_t count)
+[[gnu::noinline]] bool transformFree(const Formula& formula, const Source& src, const Destination& dst, ptrdiff_t count)
 {
     constexpr ptrdiff_t sz = sizeof(float32), recordSize = 16;
-    if (count < 4 || !isFree<Formula>(src, dst, count)) return onePerStep(formula, src, dst, 0, count);
     if (src.elementStride == sz && dst.elementStride == sz)
     {
         if constexpr (Formula::out == 4)
@@ -199,6 +198,23 @@ bool transformPointArray(const Formula& formula, const Source& src, const Destin
             return tiles(formula, src, dst, Across{src.elementStride}, Across{dst.elementStride}, count);
     }
     return onePerStep(formula, src, dst, 0, count);
+}
+
+} // namespace
+
+template <class Formula>
+bool transformPointArray(const Formula& formula, const Source& src, const Destination& dst, ptrdiff_t count)
+{
+    if (count < 4 || !isFree<Formula>(src, dst, count)) return onePerStep(formula, src, dst, 0, count);
+    constexpr ptrdiff_t size = Formula::out * sizeof(float32);
+    const bool isDense = dst.elementStride == sizeof(float32) && dst.stride == size;
+    if (!isDense || src.p == dst.p || !isBeyondCaches(count * size, 1)) return transformFree(formula, src, dst, count);
+    bool ok = true;
+    streamObjects(bytes(dst.p), size, count, [&](ptrdiff_t first, ptrdiff_t n, char* to) {
+        const Source part{reinterpret_cast<const float32*>(src.at(first)), src.stride, src.elementStride};
+        ok &= transformFree(formula, part, {reinterpret_cast<float32*>(to), size}, n);
+    });
+    return ok;
 }
 
 #define ZEPM_INSTANTIATE(...)                                                                                          \

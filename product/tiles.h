@@ -1,6 +1,7 @@
 // Products of any sizes of matrices with contiguous rows: tiles of a few rows by a register of columns, sums from zero.
 #pragma once
 
+#include "frame/streams.h"
 #include "product/wide.h"
 
 namespace zepm::ZEPM_LEVEL
@@ -205,7 +206,7 @@ ZEPM_INLINE void multiplyTiles(const ProductCall& call)
 // ---- The call -------------------------------------------------------------------------------------------------------
 
 template <class T, bool Transposes1, bool Transposes2>
-void multiplyMatrices(const ProductCall& call)
+[[gnu::noinline]] void multiplyObjects(const ProductCall& call)
 {
     switch (call.order)
     {
@@ -219,6 +220,29 @@ void multiplyMatrices(const ProductCall& call)
         multiplyOrder<T, 8, Transposes1, Transposes2, true, Fixed::None>(call);
     else
         multiplyTiles<T, Transposes1, Transposes2>(call);
+}
+
+// Whether results are to be stored past the caches; in place they are read anyway.
+template <class T>
+ZEPM_INLINE bool isStreamed(const ProductCall& call)
+{
+    const ptrdiff_t rowSize = call.cols * sz<T>, size = call.rows * rowSize;
+    const int sources = !call.a.isFixed + !call.b.isFixed;
+    return !call.isList && call.d.stride1 == rowSize && call.d.step == size && size <= streamedObject &&
+           isBeyondCaches(call.count * size, sources) && call.a.p != call.d.p && call.b.p != call.d.p;
+}
+
+template <class T, bool Transposes1, bool Transposes2>
+void multiplyMatrices(const ProductCall& call)
+{
+    if (!isStreamed<T>(call)) return multiplyObjects<T, Transposes1, Transposes2>(call);
+    ProductCall part = call;
+    streamObjects(const_cast<char*>(call.d.p), call.d.step, call.count, [&](ptrdiff_t first, ptrdiff_t n, char* to) {
+        auto skip = [&](const MatrixOperand& x) { return x.isFixed ? x.p : x.p + first * x.step; };
+        part.a.p = skip(call.a), part.b.p = skip(call.b), part.d.p = to;
+        part.count = n;
+        multiplyObjects<T, Transposes1, Transposes2>(part);
+    });
 }
 
 } // namespace zepm::ZEPM_LEVEL

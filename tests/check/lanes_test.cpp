@@ -484,7 +484,8 @@ INSTANTIATE_TEST_SUITE_P(All, DriverLane,
                          testing::ValuesIn(functionsThat([](const Function& f) { return f.hasDriver(); })), nameOf);
 INSTANTIATE_TEST_SUITE_P(All, LongLane, testing::ValuesIn(functionsThat([](const Function& f) {
                              return f.name == "zepmAdd_vava_32f" || f.name == "zepmSub_cva_64f" ||
-                                    f.name == "zepmMul_mama_32f" || f.name == "zepmMul_tam_64f";
+                                    f.name == "zepmAdd_tama_32f" || f.name == "zepmMul_tac_64f" ||
+                                    f.name == "zepmMul_mama_32f" || f.name == "zepmMul_mat_64f";
                          })),
                          nameOf);
 INSTANTIATE_TEST_SUITE_P(All, NarrowLane,

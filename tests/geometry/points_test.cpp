@@ -4,6 +4,7 @@
 #include "zepcore.h"
 #include "zepm.h"
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <cstdio>
@@ -225,6 +226,45 @@ TEST_P(Points, Overlapping)
                 ASSERT_EQ(different, 0) << "level " << level << ", strides " << stride.src << ' ' << stride.dst
                                         << ", shift " << shift;
             }
+    }
+}
+
+// Dense results larger than the caches are stored past them: the bits of many short calls.
+TEST_P(Points, BeyondTheCaches)
+{
+    int32 cacheSize = 0;
+    ASSERT_EQ(zepGetMaxCacheSizeB(&cacheSize), stsOk);
+    if (cacheSize > 1 << 28) return; // too much memory for a test
+    constexpr int atOnce = 1000;
+    const int count = std::max(cacheSize, 1 << 23) / dstSize / 2 + 10007;
+    const size_t from = static_cast<size_t>(count) * static_cast<size_t>(srcSize);
+    const size_t to = static_cast<size_t>(count) * static_cast<size_t>(dstSize);
+    check::Arena sources(from), results(to + 64);
+    for (size_t i = 0; i < from; i += 4)
+    {
+        const float32 x = between(-2, 2);
+        std::memcpy(sources.end() - from + i, &x, 4);
+    }
+    const char* const src = sources.end() - from;
+    std::vector<char> expected(to + 64, 0x5a);
+    for (int k = 0; k < count; k += atOnce)
+        ASSERT_EQ(function.array(matrices, src + static_cast<ptrdiff_t>(k) * srcSize, srcSize,
+                                 expected.data() + 32 + static_cast<ptrdiff_t>(k) * dstSize, dstSize,
+                                 std::min(atOnce, count - k)),
+                  stsOk);
+    running = std::string(function.name) + ", beyond the caches";
+    for (const int32 level : {0, 1, 2})
+    {
+        const AtLevel at(level);
+        if (!at.isThere) continue;
+        for (const int gap : {0, 7, 32}) // bytes before the end
+        {
+            char* const dst = results.end() - to - gap;
+            std::memset(dst - 32, 0x5a, 32 + to + static_cast<size_t>(gap));
+            ASSERT_EQ(function.array(matrices, src, srcSize, dst, dstSize, count), stsOk);
+            ASSERT_EQ(std::memcmp(dst - 32, expected.data(), 32 + to + static_cast<size_t>(gap)), 0)
+                << running << ", level " << level << ", gap " << gap;
+        }
     }
 }
 
