@@ -76,6 +76,8 @@ template <class T, int N, int W>
 [[gnu::noinline]] int eliminate(Local<T, N, W>& result)
 {
     Local<T, N, W> m = result;
+    ZEPM_UNROLL
+    for (int i = 0; i < N; ++i) m.row[i] = broadcast<IntOf<T>, W>(i);
     int p = 0;
     ZEPM_UNROLL
     for (; p < N; ++p)
@@ -88,59 +90,42 @@ template <class T, int N, int W>
     return p;
 }
 
-template <class T, int N, int W, class Source>
-ZEPM_INLINE void read(Local<T, N, W>& m, const Group<Source, W>& source)
-{
-    readMatrix<T>(source, m.a);
-    ZEPM_UNROLL
-    for (int32 i = 0; i < N; ++i) m.row[i] = broadcast<IntOf<T>, W>(i);
-}
-
 template <class T, int N, int W>
 ZEPM_INLINE LaneRows<W> rowsOf(const Local<T, N, W>& m, int p)
 {
     LaneRows<W> rows;
-    if constexpr (W == 1)
-        rows.row[0] = static_cast<int32>(m.row[p]);
-    else
-    {
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n) rows.row[n] = static_cast<int32>(m.row[p][n]);
-    }
+    ZEPM_UNROLL
+    for (int n = 0; n < W; ++n) rows.row[n] = static_cast<int32>(laneOf<W>(m.row[p], n));
     return rows;
 }
 
 // One matrix: the rows of the pivots in front of a singular one are written.
-template <class T, int N, class Source, class Destination>
-[[gnu::noinline]] Status factorOne(const Group<Source, 1>& source, const PivotObject<int32>& pivots,
-                                   const Group<Destination, 1>& destination)
+template <class T, int N>
+[[gnu::noinline]] bool factorRows(const Group<const T, 1>& source, const GroupPivots<int32, N, 1>& pivots,
+                                  const Group<T, 1>& destination)
 {
     Local<T, N, 1> m;
-    read(m, source);
+    readMatrix(source, m.a);
     const int accepted = eliminate(m);
-    for (int p = 0; p < N; ++p)
-    {
-        const LaneRows<1> rows = rowsOf(m, p);
-        pivots.set(p, rows.row[0]);
-        if (p < accepted) destination.template writeRow<N>(rows, m.a[p]);
-    }
-    return accepted == N ? stsOk : stsSingularErr;
+    pivots.template writeLanes<IntOf<T>>(m.row);
+    for (int p = 0; p < accepted; ++p) destination.template writeRow<N>(rowsOf(m, p), m.a[p]);
+    return accepted == N;
 }
 
 // A group, if none of its matrices is singular; otherwise nothing is written.
-template <class T, int N, int W, class Source, class Destination>
-[[gnu::noinline]] bool factorGroup(const Group<Source, W>& source, const GroupPivots<int32, N, W>& pivots,
-                                   const Group<Destination, W>& destination)
+template <class T, int N, int W>
+[[gnu::noinline]] bool factorRows(const Group<const T, W>& source, const GroupPivots<int32, N, W>& pivots,
+                                  const Group<T, W>& destination)
 {
     Local<T, N, W> m;
-    read(m, source);
+    readMatrix(source, m.a);
     if (eliminate(m) < N) return false;
     pivots.template writeLanes<IntOf<T>>(m.row);
     if constexpr (permutesRows<N>)
     {
         Vec<T, W> d[N][N];
         putRows(m.a, m.row, d);
-        writeMatrix<T>(destination, d);
+        writeMatrix(destination, d);
     }
     else
     {
@@ -150,12 +135,63 @@ template <class T, int N, int W, class Source, class Destination>
     return true;
 }
 
+// Matrices k to k + size - 1, of order n, into the lanes of a; lanes behind them repeat the last.
+template <class T, class Source>
+[[gnu::noinline]] void gather(const Source& source, int32 k, int32 size, int32 n, const LaneCopies<T>& a)
+{
+    for (int32 lane = 0; lane < a.width; ++lane)
+    {
+        const auto object = source.object(k + (lane < size ? lane : size - 1));
+        for (int32 i = 0; i < n; ++i)
+            for (int32 j = 0; j < n; ++j) a.set(i * n + j, lane, object.get(i, j));
+    }
+}
+
+// And back: the rows of the accepted pivots, and all pivots.
+template <class T, class Destination>
+[[gnu::noinline]] void scatter(const LaneCopies<T>& a, const LaneCopies<IntOf<T>>& rows, int accepted, int32 k,
+                               int32 size, int32 n, const PivotBlock<int32>& pivots, const Destination& destination)
+{
+    for (int32 lane = 0; lane < size; ++lane)
+    {
+        const auto object = destination.object(k + lane);
+        for (int32 p = 0; p < n; ++p)
+        {
+            const auto row = static_cast<int32>(rows.get(p, lane));
+            pivots.object(k + lane, n).set(p, row);
+            if (p < accepted)
+                for (int32 j = 0; j < n; ++j) object.set(row, j, a.get(p * n + j, lane));
+        }
+    }
+}
+
+// The same as factorRows of elements at any distance, or behind tables.
+template <class T, int N, int W, class Source, class Destination>
+ZEPM_INLINE bool factorCopies(const Source& source, const PivotBlock<int32>& pivots, const Destination& destination,
+                              int32 k, int32 size)
+{
+    Local<T, N, W> m;
+    gather(source, k, size, N, LaneCopies<T>(m.a, W));
+    const int accepted = eliminate(m);
+    if (W == 1 || accepted == N)
+        scatter(LaneCopies<T>(m.a, W), LaneCopies<IntOf<T>>(m.row, W), accepted, k, size, N, pivots, destination);
+    return accepted == N;
+}
+
 // The first singular matrix ends the call: a group with one is done again matrix by matrix.
 template <class T, int N, class X, class Source, class Destination>
 ZEPM_INLINE Status factorUnrolled(const X& x, const Source& source, const Destination& destination)
 {
+    auto factorFrom = [&]<int W>(int32 k, int32 size) __attribute__((always_inline))
+    {
+        if constexpr (isContiguous<Source>)
+            return factorRows<T, N>(Group<const T, W>(source, k, size), GroupPivots<int32, N, W>(x.pivots, k, size),
+                                    Group<T, W>(destination, k, size));
+        else
+            return factorCopies<T, N, W>(source, x.pivots, destination, k, size);
+    };
     if constexpr (!decltype(x.dst)::isArray)
-        return factorOne<T, N>(groupOf<1>(source, 0, 1), x.pivots.object(0, N), groupOf<1>(destination, 0, 1));
+        return factorFrom.template operator()<1>(0, 1) ? stsOk : stsSingularErr;
     else
     {
         constexpr int W = lanes<T>;
@@ -164,14 +200,9 @@ ZEPM_INLINE Status factorUnrolled(const X& x, const Source& source, const Destin
         {
             const int32 k = x.count - left;
             const int32 size = left < W ? left : W;
-            if (size >= leastGroup &&
-                factorGroup<T, N>(groupOf<W>(source, k, size), GroupPivots<int32, N, W>(x.pivots, k, size),
-                                  groupOf<W>(destination, k, size)))
-                continue;
+            if (size >= leastGroup && factorFrom.template operator()<W>(k, size)) continue;
             for (int32 n = k; n < k + size; ++n)
-                if (const Status status =
-                        factorOne<T, N>(groupOf<1>(source, n, 1), x.pivots.object(n, N), groupOf<1>(destination, n, 1)))
-                    return status;
+                if (!factorFrom.template operator()<1>(n, 1)) return stsSingularErr;
         }
         return stsOk;
     }

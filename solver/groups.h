@@ -155,6 +155,15 @@ ZEPM_INLINE void storeTransposed(char* const* p, const Vec<T, W>* x)
 
 // ---- Objects by lane ------------------------------------------------------------------------------------------------
 
+template <int W, class V>
+ZEPM_INLINE auto laneOf(V x, int n)
+{
+    if constexpr (W == 1)
+        return x;
+    else
+        return x[n];
+}
+
 // Row numbers, one for each lane.
 template <int W>
 struct LaneRows
@@ -162,18 +171,14 @@ struct LaneRows
     int32 row[W];
 };
 
-// Objects k to k + size - 1, one for each lane. Where size is less than W, the other lanes repeat the last object: they
-// compute, and store, the same once more.
-template <class Object, int W>
-struct Group;
-
-template <class T, bool Contiguous, int W>
-struct Group<StridedObject<T, Contiguous>, W>
+// Objects k to k + size - 1 of contiguous rows, one for each lane. Where size is less than W, the other lanes repeat the
+// last object: they compute, and store, the same once more.
+template <class T, int W>
+struct Group
 {
     using Element = std::remove_const_t<T>;
-    static constexpr bool isTransposed = Contiguous && W > 1;
     Bytes<T> p[W];
-    ptrdiff_t stride1, stride2;
+    ptrdiff_t stride1;
 
     template <class View>
     ZEPM_INLINE Group(const View& view, int32 k, int32 size)
@@ -181,38 +186,28 @@ struct Group<StridedObject<T, Contiguous>, W>
         ZEPM_UNROLL
         for (int n = 0; n < W; ++n) p[n] = view.object(k + (n < size ? n : size - 1)).p;
         stride1 = view.stride1;
-        stride2 = Contiguous ? static_cast<ptrdiff_t>(sizeof(T)) : view.stride2;
     }
 
-    // Element (row, j) of each lane, row its own.
-    ZEPM_INLINE Vec<Element, W> get(const LaneRows<W>& rows, int32 j) const
-    {
-        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
-            return load<T>(p[n] + rows.row[n] * stride1 + j * stride2);
-        });
-    }
     // Element (0, j) of each lane, j its own.
     ZEPM_INLINE Vec<Element, W> getAcross(const LaneRows<W>& rows) const
     {
         return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
-            return load<T>(p[n] + rows.row[n] * stride2);
+            return load<T>(p[n] + rows.row[n] * static_cast<ptrdiff_t>(sizeof(T)));
         });
     }
-    // The N elements of a row of each lane.
+    // The N elements of a row of each lane, row its own.
     template <int N>
     ZEPM_INLINE void readRow(const LaneRows<W>& rows, Vec<Element, W>* x) const
     {
-        if constexpr (isTransposed)
-        {
-            const char* at[W];
-            ZEPM_UNROLL
-            for (int n = 0; n < W; ++n) at[n] = p[n] + rows.row[n] * stride1;
+        const char* at[W];
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n) at[n] = p[n] + rows.row[n] * stride1;
+        if constexpr (W > 1)
             loadTransposed<Element, W, N>(at, x);
-        }
         else
         {
             ZEPM_UNROLL
-            for (int j = 0; j < N; ++j) x[j] = get(rows, j);
+            for (int j = 0; j < N; ++j) x[j] = load<T>(at[0] + j * sizeof(T));
         }
     }
     template <int N>
@@ -221,88 +216,45 @@ struct Group<StridedObject<T, Contiguous>, W>
         char* at[W];
         ZEPM_UNROLL
         for (int n = 0; n < W; ++n) at[n] = p[n] + rows.row[n] * stride1;
-        if constexpr (isTransposed)
+        if constexpr (W > 1)
             storeTransposed<Element, W, N>(at, x);
         else
         {
             ZEPM_UNROLL
-            for (int j = 0; j < N; ++j) storeLanes(at, j * stride2, x[j]);
+            for (int j = 0; j < N; ++j) store<T>(at[0] + j * sizeof(T), x[j]);
         }
     }
+};
+
+// The objects of a view without contiguous rows go through copies, one in each lane. An element is copied at a time, by
+// loops that stay loops: what is unrolled stands for contiguous rows alone.
+template <class View>
+inline constexpr bool isContiguous = false;
+template <class T, bool Fixed>
+inline constexpr bool isContiguous<StridedView<T, true, Fixed>> = true;
+template <class T>
+inline constexpr bool isContiguous<ListView<T, true>> = true;
+
+// Values in memory by element and lane: registers one after another, seen as their lanes.
+template <class T>
+struct LaneCopies
+{
+    char* p;
+    int32 width;
+
+    template <class Registers>
+    ZEPM_INLINE LaneCopies(Registers& x, int32 numLanes) : p(reinterpret_cast<char*>(&x)), width(numLanes)
+    {
+    }
+    ZEPM_INLINE T get(int32 element, int32 lane) const { return load<T>(at(element, lane)); }
+    ZEPM_INLINE void set(int32 element, int32 lane, T x) const { store<T>(at(element, lane), x); }
 
 private:
-    ZEPM_INLINE static void storeLanes(char* const* at, ptrdiff_t offset, Vec<Element, W> x)
+    ZEPM_INLINE char* at(int32 element, int32 lane) const
     {
-        if constexpr (W == 1)
-            store<Element>(at[0] + offset, x);
-        else
-        {
-            ZEPM_UNROLL
-            for (int n = 0; n < W; ++n) store<Element>(at[n] + offset, x[n]);
-        }
+        return p + (element * width + lane) * static_cast<ptrdiff_t>(sizeof(T));
     }
 };
-
-template <class T, int W>
-struct Group<TableObject<T>, W>
-{
-    using Element = std::remove_const_t<T>;
-    static constexpr bool isTransposed = false;
-    T* const* pp;
-    ptrdiff_t offset[W];
-    ptrdiff_t width;
-
-    template <class View>
-    ZEPM_INLINE Group(const View& view, int32 k, int32 size)
-    {
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n) offset[n] = view.object(k + (n < size ? n : size - 1)).offset;
-        pp = view.pp;
-        width = view.width;
-    }
-
-    ZEPM_INLINE Vec<Element, W> get(const LaneRows<W>& rows, int32 j) const
-    {
-        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
-            return load<T>(bytes(pp[rows.row[n] * width + j]) + offset[n]);
-        });
-    }
-    ZEPM_INLINE Vec<Element, W> getAcross(const LaneRows<W>& rows) const
-    {
-        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
-            return load<T>(bytes(pp[rows.row[n]]) + offset[n]);
-        });
-    }
-    template <int N>
-    ZEPM_INLINE void readRow(const LaneRows<W>& rows, Vec<Element, W>* x) const
-    {
-        ZEPM_UNROLL
-        for (int j = 0; j < N; ++j) x[j] = get(rows, j);
-    }
-    template <int N>
-    ZEPM_INLINE void writeRow(const LaneRows<W>& rows, const Vec<Element, W>* x) const
-    {
-        ZEPM_UNROLL
-        for (int j = 0; j < N; ++j)
-        {
-            ZEPM_UNROLL
-            for (int n = 0; n < W; ++n)
-            {
-                char* const at = bytes(pp[rows.row[n] * width + j]) + offset[n];
-                if constexpr (W == 1)
-                    store<Element>(at, x[j]);
-                else
-                    store<Element>(at, x[j][n]);
-            }
-        }
-    }
-};
-
-template <int W, class View>
-ZEPM_INLINE auto groupOf(const View& view, int32 k, int32 size)
-{
-    return Group<decltype(view.object(0)), W>(view, k, size);
-}
 
 // The pivots of the objects of a group. I is int32 or const int32.
 template <class I, int N, int W>
@@ -342,7 +294,7 @@ struct GroupPivots
     template <class Int>
     ZEPM_INLINE void writeLanes(const Vec<Int, W> (&row)[N]) const
     {
-        if constexpr (sizeof(Int) == sizeof(int32))
+        if constexpr (W > 1 && sizeof(Int) == sizeof(int32))
             storeTransposed<int32, W, N>(p, row);
         else
         {
@@ -351,7 +303,7 @@ struct GroupPivots
             {
                 ZEPM_UNROLL
                 for (int i = 0; i < N; ++i)
-                    PivotObject<I>{reinterpret_cast<I*>(p[n])}.set(i, static_cast<int32>(row[i][n]));
+                    PivotObject<I>{reinterpret_cast<I*>(p[n])}.set(i, static_cast<int32>(laneOf<W>(row[i], n)));
             }
         }
     }
@@ -369,22 +321,15 @@ ZEPM_INLINE LaneRows<W> sameRow(int32 row)
 // ---- Matrices by lane -----------------------------------------------------------------------------------------------
 
 // Rows without gaps are taken as one, where that saves pieces.
-template <int N, class AnyGroup>
-ZEPM_INLINE bool isOneRow(const AnyGroup& group)
-{
-    using T = typename AnyGroup::Element;
-    if constexpr (AnyGroup::isTransposed && N % pieceLength<T> != 0)
-        return group.stride1 == N * static_cast<ptrdiff_t>(sizeof(T));
-    else
-        return false;
-}
+template <class T, int N, int W>
+inline constexpr bool joinsRows = W > 1 && N % pieceLength<T> != 0;
 
-template <class T, int N, class Object, int W>
-ZEPM_INLINE void readMatrix(const Group<Object, W>& group, Vec<T, W> (&x)[N][N])
+template <class T, int N, int W>
+ZEPM_INLINE void readMatrix(const Group<const T, W>& group, Vec<T, W> (&x)[N][N])
 {
-    if constexpr (Group<Object, W>::isTransposed && N % pieceLength<T> != 0)
+    if constexpr (joinsRows<T, N, W>)
     {
-        if (isOneRow<N>(group))
+        if (group.stride1 == N * static_cast<ptrdiff_t>(sizeof(T)))
         {
             Vec<T, W> row[N * N];
             loadTransposed<T, W, N * N>(group.p, row);
@@ -396,12 +341,12 @@ ZEPM_INLINE void readMatrix(const Group<Object, W>& group, Vec<T, W> (&x)[N][N])
     ZEPM_UNROLL
     for (int32 i = 0; i < N; ++i) group.template readRow<N>(sameRow<W>(i), x[i]);
 }
-template <class T, int N, class Object, int W>
-ZEPM_INLINE void writeMatrix(const Group<Object, W>& group, const Vec<T, W> (&x)[N][N])
+template <class T, int N, int W>
+ZEPM_INLINE void writeMatrix(const Group<T, W>& group, const Vec<T, W> (&x)[N][N])
 {
-    if constexpr (Group<Object, W>::isTransposed && N % pieceLength<T> != 0)
+    if constexpr (joinsRows<T, N, W>)
     {
-        if (isOneRow<N>(group))
+        if (group.stride1 == N * static_cast<ptrdiff_t>(sizeof(T)))
         {
             Vec<T, W> row[N * N];
             ZEPM_UNROLL

@@ -36,9 +36,9 @@ ZEPM_INLINE void solve(const V (&f)[N][N], V (&y)[N], Finish finish)
 
 // Systems with a matrix each. False, with nothing written, if rows are to be permuted in registers and a pivot is none
 // of the N rows: what it then addresses is not there.
-template <class T, int N, int W, class Matrix, class Rhs, class Destination>
-[[gnu::noinline]] bool solveGroup(const Group<Matrix, W>& matrix, const GroupPivots<const int32, N, W>& pivots,
-                                  const Group<Rhs, W>& rhs, const Group<Destination, W>& destination)
+template <class T, int N, int W>
+[[gnu::noinline]] bool solveRows(const Group<const T, W>& matrix, const GroupPivots<const int32, N, W>& pivots,
+                                 const Group<const T, W>& rhs, const Group<T, W>& destination)
 {
     Vec<T, W> f[N][N], y[N];
     if constexpr (permutesRows<N> && W > 1)
@@ -50,7 +50,7 @@ template <class T, int N, int W, class Matrix, class Rhs, class Destination>
         for (int i = 0; i < N; ++i) isOutside = isOutside | (row[i] < 0) | (row[i] >= N);
         if (any(isOutside)) return false;
         Vec<T, W> stored[N][N], b[N];
-        readMatrix<T>(matrix, stored);
+        readMatrix(matrix, stored);
         rhs.template readRow<N>(sameRow<W>(0), b);
         ZEPM_UNROLL
         for (int i = 0; i < N; ++i)
@@ -80,7 +80,63 @@ template <class T, int N, int W, class Matrix, class Rhs, class Destination>
     return true;
 }
 
-// Systems with one matrix between them: its diagonal is inverted once.
+// ---- The same of elements at any distance, or behind tables ---------------------------------------------------------
+
+// The matrices of systems k to k + size - 1, of order n, into the lanes of f, their rows in pivot order. Lanes behind
+// them repeat the last.
+template <class T, class Matrix>
+[[gnu::noinline]] void gatherMatrices(const Matrix& matrix, const PivotBlock<const int32>& pivots, int32 k, int32 size,
+                                      int32 n, const LaneCopies<T>& f)
+{
+    for (int32 lane = 0; lane < f.width; ++lane)
+    {
+        const int32 system = k + (lane < size ? lane : size - 1);
+        const auto object = matrix.object(system);
+        for (int32 i = 0; i < n; ++i)
+        {
+            const int32 row = pivots.object(system, n).get(i);
+            for (int32 j = 0; j < n; ++j) f.set(i * n + j, lane, object.get(row, j));
+        }
+    }
+}
+
+// Their right-hand sides in that order.
+template <class T, class X, class Rhs>
+[[gnu::noinline]] void gatherRhs(const X& x, const Rhs& rhs, int32 k, int32 size, int32 n, const LaneCopies<T>& y)
+{
+    for (int32 lane = 0; lane < y.width; ++lane)
+    {
+        const int32 system = k + (lane < size ? lane : size - 1);
+        const auto object = rhs.object(system);
+        for (int32 i = 0; i < n; ++i) y.set(i, lane, object.get(0, x.pivotsOf(system).get(i)));
+    }
+}
+
+template <class T, class Destination>
+[[gnu::noinline]] void scatterSolutions(const LaneCopies<T>& y, int32 k, int32 size, int32 n,
+                                        const Destination& destination)
+{
+    for (int32 lane = 0; lane < size; ++lane)
+    {
+        const auto object = destination.object(k + lane);
+        for (int32 i = 0; i < n; ++i) object.set(0, i, y.get(i, lane));
+    }
+}
+
+template <class V, int N>
+[[gnu::noinline]] void solveCopies(const V (&f)[N][N], V (&inOut)[N])
+{
+    V y[N];
+    ZEPM_UNROLL
+    for (int i = 0; i < N; ++i) y[i] = inOut[i];
+    solve(
+        f, y, [&](V x, int i) __attribute__((always_inline)) { return x / f[i][i]; });
+    ZEPM_UNROLL
+    for (int i = 0; i < N; ++i) inOut[i] = y[i];
+}
+
+// ---- Systems with one matrix between them: its diagonal is inverted once --------------------------------------------
+
 template <class T, int N, int W>
 struct SharedFactors
 {
@@ -88,21 +144,27 @@ struct SharedFactors
     int32 row[N];
     bool rowsInside = true; // of the right-hand side too
 
-    template <class Matrix>
-    ZEPM_INLINE SharedFactors(const Matrix& matrix, const PivotObject<const int32>& pivots)
+    // From its copy with the rows in pivot order.
+    ZEPM_INLINE SharedFactors(const T (&copy)[N][N], const PivotObject<const int32>& pivots)
     {
         for (int i = 0; i < N; ++i)
         {
             row[i] = pivots.get(i);
             rowsInside = rowsInside && row[i] >= 0 && row[i] < N;
-            for (int j = 0; j < N; ++j) f[i][j] = broadcast<T, W>(matrix.get(row[i], j));
-            reciprocal[i] = broadcast<T, W>(1 / matrix.get(row[i], i));
+            for (int j = 0; j < N; ++j) f[i][j] = broadcast<T, W>(copy[i][j]);
+            reciprocal[i] = broadcast<T, W>(1 / copy[i][i]);
         }
     }
+    ZEPM_INLINE void solve(Vec<T, W> (&y)[N]) const
+    {
+        ZEPM_LEVEL::solve(
+            f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x * reciprocal[i]; });
+    }
 };
-template <class T, int N, int W, class Rhs, class Destination>
-[[gnu::noinline]] void solveGroup(const SharedFactors<T, N, W>& shared, const Group<Rhs, W>& rhs,
-                                  const Group<Destination, W>& destination)
+
+template <class T, int N, int W>
+[[gnu::noinline]] void solveRows(const SharedFactors<T, N, W>& shared, const Group<const T, W>& rhs,
+                                 const Group<T, W>& destination)
 {
     Vec<T, W> b[N], y[N];
     if (shared.rowsInside)
@@ -115,18 +177,41 @@ template <class T, int N, int W, class Rhs, class Destination>
     {
         for (int i = 0; i < N; ++i) y[i] = rhs.getAcross(sameRow<W>(shared.row[i]));
     }
-    solve(
-        shared.f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x * shared.reciprocal[i]; });
+    shared.solve(y);
     destination.template writeRow<N>(sameRow<W>(0), y);
 }
+
+template <class T, int N, int W>
+[[gnu::noinline]] void solveCopies(const SharedFactors<T, N, W>& shared, Vec<T, W> (&inOut)[N])
+{
+    Vec<T, W> y[N];
+    ZEPM_UNROLL
+    for (int i = 0; i < N; ++i) y[i] = inOut[i];
+    shared.solve(y);
+    ZEPM_UNROLL
+    for (int i = 0; i < N; ++i) inOut[i] = y[i];
+}
+
+// ---- Groups of systems ----------------------------------------------------------------------------------------------
 
 template <class T, int N, class X, class Matrix, class Rhs, class Destination>
 ZEPM_INLINE void solveUnrolled(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination)
 {
     auto solveFrom = [&]<int W>(int32 k, int32 size) __attribute__((always_inline))
     {
-        return solveGroup<T, N>(groupOf<W>(matrix, k, size), GroupPivots<const int32, N, W>(x.pivots, k, size),
-                                groupOf<W>(rhs, k, size), groupOf<W>(destination, k, size));
+        if constexpr (isContiguous<Matrix>)
+            return solveRows<T, N, W>(Group<const T, W>(matrix, k, size),
+                                      GroupPivots<const int32, N, W>(x.pivots, k, size), Group<const T, W>(rhs, k, size),
+                                      Group<T, W>(destination, k, size));
+        else
+        {
+            Vec<T, W> f[N][N], y[N];
+            gatherMatrices(matrix, x.pivots, k, size, N, LaneCopies<T>(f, W));
+            gatherRhs(x, rhs, k, size, N, LaneCopies<T>(y, W));
+            solveCopies(f, y);
+            scatterSolutions(LaneCopies<T>(y, W), k, size, N, destination);
+            return true;
+        }
     };
     if constexpr (decltype(x.dst)::isArray)
     {
@@ -149,12 +234,22 @@ ZEPM_INLINE void solveUnrolled(const X& x, const Matrix& matrix, const Rhs& rhs,
 template <class T, int N, int W, class X, class Matrix, class Rhs, class Destination>
 ZEPM_INLINE void solveShared(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination)
 {
-    const SharedFactors<T, N, W> shared(matrix.object(0), x.pivots.object(0, N));
+    T copy[N][N];
+    gatherMatrices(matrix, x.pivots, 0, 1, N, LaneCopies<T>(copy, 1));
+    const SharedFactors<T, N, W> shared(copy, x.pivots.object(0, N));
     for (int32 left = x.count; left > 0; left -= W)
     {
         const int32 k = x.count - left;
         const int32 size = left < W ? left : W;
-        solveGroup(shared, groupOf<W>(rhs, k, size), groupOf<W>(destination, k, size));
+        if constexpr (isContiguous<Rhs>)
+            solveRows(shared, Group<const T, W>(rhs, k, size), Group<T, W>(destination, k, size));
+        else
+        {
+            Vec<T, W> y[N];
+            gatherRhs(x, rhs, k, size, N, LaneCopies<T>(y, W));
+            solveCopies(shared, y);
+            scatterSolutions(LaneCopies<T>(y, W), k, size, N, destination);
+        }
     }
 }
 
