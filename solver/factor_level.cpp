@@ -71,11 +71,14 @@ ZEPM_INLINE void clearColumn(Local<T, N, W>& m, int p)
     }
 }
 
-// The number of pivots that are not singular in any lane: N, or the step at which it ends.
+// The number of pivots that are not singular in any lane: N, or the step at which it ends. a becomes the rows of the
+// factors in the order of the pivots.
 template <class T, int N, int W>
-[[gnu::noinline]] int eliminate(Local<T, N, W>& result)
+[[gnu::noinline]] int eliminate(Vec<T, W>* a, Vec<IntOf<T>, W>* row)
 {
-    Local<T, N, W> m = result;
+    Local<T, N, W> m;
+    ZEPM_UNROLL
+    for (int e = 0; e < N * N; ++e) m.a[e / N][e % N] = a[e];
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i) m.row[i] = broadcast<IntOf<T>, W>(i);
     int p = 0;
@@ -86,7 +89,10 @@ template <class T, int N, int W>
         if (any(absolute(m.a[p][p]) < broadcast<T, W>(tiny<T>))) break;
         if (p < N - 1) clearColumn(m, p);
     }
-    result = m;
+    ZEPM_UNROLL
+    for (int e = 0; e < N * N; ++e) a[e] = m.a[e / N][e % N];
+    ZEPM_UNROLL
+    for (int i = 0; i < N; ++i) row[i] = m.row[i];
     return p;
 }
 
@@ -99,29 +105,19 @@ ZEPM_INLINE LaneRows<W> rowsOf(const Local<T, N, W>& m, int p)
     return rows;
 }
 
-// One matrix: the rows of the pivots in front of a singular one are written.
-template <class T, int N>
-[[gnu::noinline]] bool factorRows(const Group<const T, 1>& source, const GroupPivots<int32, N, 1>& pivots,
-                                  const Group<T, 1>& destination)
-{
-    Local<T, N, 1> m;
-    readMatrix(source, m.a);
-    const int accepted = eliminate(m);
-    pivots.template writeLanes<IntOf<T>>(m.row);
-    for (int p = 0; p < accepted; ++p) destination.template writeRow<N>(rowsOf(m, p), m.a[p]);
-    return accepted == N;
-}
-
-// A group, if none of its matrices is singular; otherwise nothing is written.
+// A group, if none of its matrices is singular; otherwise nothing is written. But of one matrix the rows of the pivots in
+// front of a singular one are written, and all pivots. pivots are those of one lane after the other.
 template <class T, int N, int W>
-[[gnu::noinline]] bool factorRows(const Group<const T, W>& source, const GroupPivots<int32, N, W>& pivots,
-                                  const Group<T, W>& destination)
+[[gnu::noinline]] bool factorRows(const Group<const T, W>& source, char* pivots, const Group<T, W>& destination)
 {
     Local<T, N, W> m;
     readMatrix(source, m.a);
-    if (eliminate(m) < N) return false;
-    pivots.template writeLanes<IntOf<T>>(m.row);
-    if constexpr (permutesRows<N>)
+    const int accepted = eliminate<T, N, W>(m.a[0], m.row);
+    if (W > 1 && accepted < N) return false;
+    writePivotLanes<IntOf<T>, N, W>(pivots, m.row);
+    if constexpr (W == 1)
+        for (int p = 0; p < accepted; ++p) destination.template writeRow<N>(rowsOf(m, p), m.a[p]);
+    else if constexpr (permutesRows<N>)
     {
         Vec<T, W> d[N][N];
         putRows(m.a, m.row, d);
@@ -132,7 +128,7 @@ template <class T, int N, int W>
         ZEPM_UNROLL
         for (int p = 0; p < N; ++p) destination.template writeRow<N>(rowsOf(m, p), m.a[p]);
     }
-    return true;
+    return accepted == N;
 }
 
 // Matrices k to k + size - 1, of order n, into the lanes of a; lanes behind them repeat the last.
@@ -165,44 +161,64 @@ template <class T, class Destination>
     }
 }
 
-// The same as factorRows of elements at any distance, or behind tables.
-template <class T, int N, int W, class Source, class Destination>
-ZEPM_INLINE bool factorCopies(const Source& source, const PivotBlock<int32>& pivots, const Destination& destination,
-                              int32 k, int32 size)
+template <class T, int W, class X, class Source, class Destination>
+struct Matrices
 {
-    Local<T, N, W> m;
-    gather(source, k, size, N, LaneCopies<T>(m.a, W));
-    const int accepted = eliminate(m);
-    if (W == 1 || accepted == N)
-        scatter(LaneCopies<T>(m.a, W), LaneCopies<IntOf<T>>(m.row, W), accepted, k, size, N, pivots, destination);
-    return accepted == N;
-}
+    const X& x;
+    const Source& source;
+    const Destination& destination;
+    using Rows = bool (*)(const Group<const T, W>&, char*, const Group<T, W>&);
+    using Copies = int (*)(Vec<T, W>*, Vec<IntOf<T>, W>*);
+    std::conditional_t<isContiguous<Source>, Rows, Copies> kernel = forOrder(x.widthHeight, []<int N>() {
+        if constexpr (isContiguous<Source>)
+            return Rows(factorRows<T, N, W>);
+        else
+            return Copies(eliminate<T, N, W>);
+    });
+
+    // Matrices k to k + size - 1, with what factorRows gives and leaves.
+    ZEPM_INLINE bool factor(int32 k, int32 size) const
+    {
+        const int32 n = x.widthHeight;
+        if constexpr (isContiguous<Source>)
+        {
+            const GroupPivots<int32, W> pivots(x.pivots, k, size, n);
+            const bool succeeds = kernel(Group<const T, W>(source, k, size), pivots.p, Group<T, W>(destination, k, size));
+            if (succeeds) pivots.finish(x.pivots, k, size, n);
+            return succeeds;
+        }
+        else
+        {
+            Vec<T, W> a[largestWrittenOut * largestWrittenOut];
+            Vec<IntOf<T>, W> row[largestWrittenOut];
+            gather(source, k, size, n, LaneCopies<T>(a, W));
+            const int accepted = kernel(a, row);
+            if (W == 1 || accepted == n)
+                scatter(LaneCopies<T>(a, W), LaneCopies<IntOf<T>>(row, W), accepted, k, size, n, x.pivots, destination);
+            return accepted == n;
+        }
+    }
+};
 
 // The first singular matrix ends the call: a group with one is done again matrix by matrix.
-template <class T, int N, class X, class Source, class Destination>
-ZEPM_INLINE Status factorUnrolled(const X& x, const Source& source, const Destination& destination)
+template <class T, class X, class Source, class Destination>
+ZEPM_INLINE Status factorWrittenOut(const X& x, const Source& source, const Destination& destination)
 {
-    auto factorFrom = [&]<int W>(int32 k, int32 size) __attribute__((always_inline))
-    {
-        if constexpr (isContiguous<Source>)
-            return factorRows<T, N>(Group<const T, W>(source, k, size), GroupPivots<int32, N, W>(x.pivots, k, size),
-                                    Group<T, W>(destination, k, size));
-        else
-            return factorCopies<T, N, W>(source, x.pivots, destination, k, size);
-    };
+    const Matrices<T, 1, X, Source, Destination> single{x, source, destination};
     if constexpr (!decltype(x.dst)::isArray)
-        return factorFrom.template operator()<1>(0, 1) ? stsOk : stsSingularErr;
+        return single.factor(0, 1) ? stsOk : stsSingularErr;
     else
     {
         constexpr int W = lanes<T>;
         constexpr int leastGroup = 2; // fewer matrices are not worth a group
+        const Matrices<T, W, X, Source, Destination> group{x, source, destination};
         for (int32 left = x.count; left > 0; left -= W)
         {
             const int32 k = x.count - left;
             const int32 size = left < W ? left : W;
-            if (size >= leastGroup && factorFrom.template operator()<W>(k, size)) continue;
+            if (size >= leastGroup && group.factor(k, size)) continue;
             for (int32 n = k; n < k + size; ++n)
-                if (!factorFrom.template operator()<1>(n, 1)) return stsSingularErr;
+                if (!single.factor(n, 1)) return stsSingularErr;
         }
         return stsOk;
     }
@@ -295,14 +311,7 @@ Status factor(const X& x)
     const int32 n = x.widthHeight;
     const auto source = x.src.template view<Contiguous>(n);
     const auto destination = x.dst.template view<Contiguous>(n);
-    switch (n)
-    {
-    case 3: return factorUnrolled<T, 3>(x, source, destination);
-    case 4: return factorUnrolled<T, 4>(x, source, destination);
-    case 5: return factorUnrolled<T, 5>(x, source, destination);
-    case 6: return factorUnrolled<T, 6>(x, source, destination);
-    default: break;
-    }
+    if (n >= 3 && n <= largestWrittenOut) return factorWrittenOut<T>(x, source, destination);
     for (int32 k = 0; k < x.count; ++k)
         if (const Status status =
                 ownLUDecompGeneral<T>(source.object(k), x.pivots.object(k, n), destination.object(k), n))

@@ -13,45 +13,71 @@ namespace
 
 // ---- Orders 3 to 6 --------------------------------------------------------------------------------------------------
 
-// One system, or one in each lane: f the factors with their rows in pivot order, y the right-hand side in that order,
-// then the solution. finish(x, i) is the last operation on solution i.
-template <class V, int N, class Finish>
-ZEPM_INLINE void solve(const V (&f)[N][N], V (&y)[N], Finish finish)
+// One system, or one in each lane: f(i, j) the factors with their rows in pivot order, y the right-hand side in that
+// order, then the solution. finish(x, i) is the last operation on solution i.
+template <class V, int N, class Factors, class Finish>
+ZEPM_INLINE void solve(const Factors& f, V (&y)[N], Finish finish)
 {
     ZEPM_UNROLL
     for (int i = 1; i < N; ++i)
     {
         ZEPM_UNROLL
-        for (int j = 1; j < i; ++j) y[i] = y[i] - f[i][j] * y[j];
-        y[i] = y[i] - f[i][0] * y[0];
+        for (int j = 1; j < i; ++j) y[i] = y[i] - f(i, j) * y[j];
+        y[i] = y[i] - f(i, 0) * y[0];
     }
     ZEPM_UNROLL
     for (int i = N - 1; i >= 0; --i)
     {
         ZEPM_UNROLL
-        for (int j = N - 1; j > i; --j) y[i] = y[i] - f[i][j] * y[j];
+        for (int j = N - 1; j > i; --j) y[i] = y[i] - f(i, j) * y[j];
         y[i] = finish(y[i], i);
     }
 }
+template <class V, int N, class Factors>
+ZEPM_INLINE void solveDividing(const Factors& f, V (&y)[N])
+{
+    solve(
+        f, y, [&](V x, int i) __attribute__((always_inline)) { return x / f(i, i); });
+}
 
-// Systems with a matrix each. False, with nothing written, if rows are to be permuted in registers and a pivot is none
-// of the N rows: what it then addresses is not there.
+// Whether right-hand sides are brought to the order of the pivots in registers, an object's in a piece.
 template <class T, int N, int W>
-[[gnu::noinline]] bool solveRows(const Group<const T, W>& matrix, const GroupPivots<const int32, N, W>& pivots,
-                                 const Group<const T, W>& rhs, const Group<T, W>& destination)
+inline constexpr bool permutesPieces = registerBytes > 16 && sizeof(T) == 4 && N == 4 && W > 1;
+
+// Element row of each lane of a piece for that lane; row is taken modulo 4.
+template <int W>
+ZEPM_INLINE Vec<float32, W> permutedPieces(Vec<float32, W> x, Vec<int32, W> row)
+{
+#if defined(__AVX512F__)
+    if constexpr (W == 16)
+        return reinterpret_cast<Vec<float32, W>>(
+            _mm512_maskz_permutevar_ps(0xffff, reinterpret_cast<__m512>(x), reinterpret_cast<__m512i>(row)));
+#endif
+#if defined(__AVX2__)
+    if constexpr (W == 8)
+        return reinterpret_cast<Vec<float32, W>>(
+            _mm256_permutevar_ps(reinterpret_cast<__m256>(x), reinterpret_cast<__m256i>(row)));
+#endif
+}
+
+// Systems with a matrix each; pivots are those of one lane after the other. False, with nothing written, if rows are to
+// be permuted in registers and a pivot is none of the N rows: what it then addresses is not there.
+template <class T, int N, int W>
+[[gnu::noinline]] bool solveRows(const Group<const T, W>& matrix, const char* pivots, const Group<const T, W>& rhs,
+                                 const Group<T, W>& destination)
 {
     Vec<T, W> f[N][N], y[N];
     if constexpr (permutesRows<N> && W > 1)
     {
         Vec<IntOf<T>, W> row[N];
-        pivots.template readLanes<IntOf<T>>(row);
+        readPivotLanes<IntOf<T>, N, W>(pivots, row);
         Mask<T, W> isOutside{};
         ZEPM_UNROLL
         for (int i = 0; i < N; ++i) isOutside = isOutside | (row[i] < 0) | (row[i] >= N);
         if (any(isOutside)) return false;
         Vec<T, W> stored[N][N], b[N];
         readMatrix(matrix, stored);
-        rhs.template readRow<N>(sameRow<W>(0), b);
+        rhs.template readVectors<N>(b);
         ZEPM_UNROLL
         for (int i = 0; i < N; ++i)
         {
@@ -65,18 +91,30 @@ template <class T, int N, int W>
     }
     else
     {
+        if constexpr (permutesPieces<T, N, W>)
+        {
+            Vec<int32, W> row[N], isOutside{};
+            loadPieces<int32, W>(Addresses<const char, W>(pivots, N * 4).p, row);
+            ZEPM_UNROLL
+            for (int i = 0; i < N; ++i) isOutside |= row[i];
+            if (any((isOutside & ~(N - 1)) != 0)) return false;
+            loadPieces<T, W>(rhs.p, y);
+            ZEPM_UNROLL
+            for (int i = 0; i < N; ++i) y[i] = permutedPieces<W>(y[i], row[i]);
+            transposePieces<T, W>(y);
+        }
         LaneRows<W> rows[N];
-        pivots.read(rows);
+        readPivots(pivots, rows);
         ZEPM_UNROLL
         for (int i = 0; i < N; ++i)
         {
             matrix.template readRow<N>(rows[i], f[i]);
-            y[i] = rhs.getAcross(rows[i]);
+            if constexpr (!permutesPieces<T, N, W>) y[i] = rhs.getAcross(rows[i]);
         }
     }
-    solve(
-        f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x / f[i][i]; });
-    destination.template writeRow<N>(sameRow<W>(0), y);
+    solveDividing(
+        [&](int i, int j) __attribute__((always_inline)) { return f[i][j]; }, y);
+    destination.template writeVectors<N>(y);
     return true;
 }
 
@@ -123,53 +161,55 @@ template <class T, class Destination>
     }
 }
 
-template <class V, int N>
-[[gnu::noinline]] void solveCopies(const V (&f)[N][N], V (&inOut)[N])
+template <class T, int N, int W>
+[[gnu::noinline]] void solveCopies(const Vec<T, W>* f, Vec<T, W>* inOut)
 {
-    V y[N];
+    Vec<T, W> y[N];
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i) y[i] = inOut[i];
-    solve(
-        f, y, [&](V x, int i) __attribute__((always_inline)) { return x / f[i][i]; });
+    solveDividing(
+        [&](int i, int j) __attribute__((always_inline)) { return f[i * N + j]; }, y);
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i) inOut[i] = y[i];
 }
 
 // ---- Systems with one matrix between them: its diagonal is inverted once --------------------------------------------
 
-template <class T, int N, int W>
+template <class T, int W>
 struct SharedFactors
 {
-    Vec<T, W> f[N][N], reciprocal[N];
-    int32 row[N];
+    Vec<T, W> f[largestWrittenOut * largestWrittenOut], reciprocal[largestWrittenOut];
+    int32 row[largestWrittenOut];
     bool rowsInside = true; // of the right-hand side too
 
-    // From its copy with the rows in pivot order.
-    ZEPM_INLINE SharedFactors(const T (&copy)[N][N], const PivotObject<const int32>& pivots)
+    template <class Matrix>
+    [[gnu::noinline]] SharedFactors(const Matrix& matrix, const PivotObject<const int32>& pivots, int32 n)
     {
-        for (int i = 0; i < N; ++i)
+        for (int i = 0; i < n; ++i)
         {
             row[i] = pivots.get(i);
-            rowsInside = rowsInside && row[i] >= 0 && row[i] < N;
-            for (int j = 0; j < N; ++j) f[i][j] = broadcast<T, W>(copy[i][j]);
-            reciprocal[i] = broadcast<T, W>(1 / copy[i][i]);
+            rowsInside = rowsInside && row[i] >= 0 && row[i] < n;
+            for (int j = 0; j < n; ++j) f[i * n + j] = broadcast<T, W>(matrix.get(row[i], j));
+            reciprocal[i] = broadcast<T, W>(1 / matrix.get(row[i], i));
         }
     }
+    template <int N>
     ZEPM_INLINE void solve(Vec<T, W> (&y)[N]) const
     {
         ZEPM_LEVEL::solve(
-            f, y, [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x * reciprocal[i]; });
+            [&](int i, int j) __attribute__((always_inline)) { return f[i * N + j]; }, y,
+            [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x * reciprocal[i]; });
     }
 };
 
 template <class T, int N, int W>
-[[gnu::noinline]] void solveRows(const SharedFactors<T, N, W>& shared, const Group<const T, W>& rhs,
-                                 const Group<T, W>& destination)
+[[gnu::noinline]] void solveSharedRows(const SharedFactors<T, W>& shared, const Group<const T, W>& rhs,
+                                       const Group<T, W>& destination)
 {
     Vec<T, W> b[N], y[N];
     if (shared.rowsInside)
     {
-        rhs.template readRow<N>(sameRow<W>(0), b);
+        rhs.template readVectors<N>(b);
         ZEPM_UNROLL
         for (int i = 0; i < N; ++i) y[i] = b[shared.row[i]];
     }
@@ -178,11 +218,11 @@ template <class T, int N, int W>
         for (int i = 0; i < N; ++i) y[i] = rhs.getAcross(sameRow<W>(shared.row[i]));
     }
     shared.solve(y);
-    destination.template writeRow<N>(sameRow<W>(0), y);
+    destination.template writeVectors<N>(y);
 }
 
 template <class T, int N, int W>
-[[gnu::noinline]] void solveCopies(const SharedFactors<T, N, W>& shared, Vec<T, W> (&inOut)[N])
+[[gnu::noinline]] void solveSharedCopies(const SharedFactors<T, W>& shared, Vec<T, W>* inOut)
 {
     Vec<T, W> y[N];
     ZEPM_UNROLL
@@ -194,61 +234,90 @@ template <class T, int N, int W>
 
 // ---- Groups of systems ----------------------------------------------------------------------------------------------
 
-template <class T, int N, class X, class Matrix, class Rhs, class Destination>
-ZEPM_INLINE void solveUnrolled(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination)
+template <class T, int W, class X, class Matrix, class Rhs, class Destination>
+struct SeparateSystems
 {
-    auto solveFrom = [&]<int W>(int32 k, int32 size) __attribute__((always_inline))
-    {
+    const X& x;
+    const Matrix& matrix;
+    const Rhs& rhs;
+    const Destination& destination;
+    using Rows = bool (*)(const Group<const T, W>&, const char*, const Group<const T, W>&, const Group<T, W>&);
+    using Copies = void (*)(const Vec<T, W>*, Vec<T, W>*);
+    std::conditional_t<isContiguous<Matrix>, Rows, Copies> kernel = forOrder(x.widthHeight, []<int N>() {
         if constexpr (isContiguous<Matrix>)
-            return solveRows<T, N, W>(Group<const T, W>(matrix, k, size),
-                                      GroupPivots<const int32, N, W>(x.pivots, k, size), Group<const T, W>(rhs, k, size),
-                                      Group<T, W>(destination, k, size));
+            return Rows(solveRows<T, N, W>);
+        else
+            return Copies(solveCopies<T, N, W>);
+    });
+
+    // Systems k to k + size - 1; false, and nothing is written, as in solveRows.
+    ZEPM_INLINE bool solve(int32 k, int32 size) const
+    {
+        const int32 n = x.widthHeight;
+        if constexpr (isContiguous<Matrix>)
+        {
+            const GroupPivots<const int32, W> pivots(x.pivots, k, size, n);
+            return kernel(Group<const T, W>(matrix, k, size), pivots.p, Group<const T, W>(rhs, k, size),
+                          Group<T, W>(destination, k, size));
+        }
         else
         {
-            Vec<T, W> f[N][N], y[N];
-            gatherMatrices(matrix, x.pivots, k, size, N, LaneCopies<T>(f, W));
-            gatherRhs(x, rhs, k, size, N, LaneCopies<T>(y, W));
-            solveCopies(f, y);
-            scatterSolutions(LaneCopies<T>(y, W), k, size, N, destination);
+            Vec<T, W> f[largestWrittenOut * largestWrittenOut], y[largestWrittenOut];
+            gatherMatrices(matrix, x.pivots, k, size, n, LaneCopies<T>(f, W));
+            gatherRhs(x, rhs, k, size, n, LaneCopies<T>(y, W));
+            kernel(f, y);
+            scatterSolutions(LaneCopies<T>(y, W), k, size, n, destination);
             return true;
         }
-    };
+    }
+};
+
+template <class T, class X, class Matrix, class Rhs, class Destination>
+ZEPM_INLINE void solveSeparate(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination)
+{
+    const SeparateSystems<T, 1, X, Matrix, Rhs, Destination> single{x, matrix, rhs, destination};
     if constexpr (decltype(x.dst)::isArray)
     {
         constexpr int W = lanes<T>;
         constexpr int leastGroup = 2; // fewer systems are not worth a group
+        const SeparateSystems<T, W, X, Matrix, Rhs, Destination> group{x, matrix, rhs, destination};
         for (int32 left = x.count; left > 0; left -= W)
         {
             const int32 k = x.count - left;
             const int32 size = left < W ? left : W;
-            if (size >= leastGroup && solveFrom.template operator()<W>(k, size)) continue;
-            for (int32 n = k; n < k + size; ++n) solveFrom.template operator()<1>(n, 1);
+            if (size >= leastGroup && group.solve(k, size)) continue;
+            for (int32 n = k; n < k + size; ++n) single.solve(n, 1);
         }
     }
     else
     {
-        solveFrom.template operator()<1>(0, 1);
+        single.solve(0, 1);
     }
 }
 
-template <class T, int N, int W, class X, class Matrix, class Rhs, class Destination>
+template <class T, int W, class X, class Matrix, class Rhs, class Destination>
 ZEPM_INLINE void solveShared(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination)
 {
-    T copy[N][N];
-    gatherMatrices(matrix, x.pivots, 0, 1, N, LaneCopies<T>(copy, 1));
-    const SharedFactors<T, N, W> shared(copy, x.pivots.object(0, N));
+    const int32 order = x.widthHeight;
+    const SharedFactors<T, W> shared(matrix.object(0), x.pivots.object(0, order), order);
+    const auto kernel = forOrder(order, []<int N>() {
+        if constexpr (isContiguous<Rhs>)
+            return &solveSharedRows<T, N, W>;
+        else
+            return &solveSharedCopies<T, N, W>;
+    });
     for (int32 left = x.count; left > 0; left -= W)
     {
         const int32 k = x.count - left;
         const int32 size = left < W ? left : W;
         if constexpr (isContiguous<Rhs>)
-            solveRows(shared, Group<const T, W>(rhs, k, size), Group<T, W>(destination, k, size));
+            kernel(shared, Group<const T, W>(rhs, k, size), Group<T, W>(destination, k, size));
         else
         {
-            Vec<T, W> y[N];
-            gatherRhs(x, rhs, k, size, N, LaneCopies<T>(y, W));
-            solveCopies(shared, y);
-            scatterSolutions(LaneCopies<T>(y, W), k, size, N, destination);
+            Vec<T, W> y[largestWrittenOut];
+            gatherRhs(x, rhs, k, size, order, LaneCopies<T>(y, W));
+            kernel(shared, y);
+            scatterSolutions(LaneCopies<T>(y, W), k, size, order, destination);
         }
     }
 }
@@ -289,17 +358,6 @@ template <class T, class Matrix, class Rhs, class Destination>
     }
 }
 
-template <class T, int N, class X, class Matrix, class Rhs, class Destination>
-ZEPM_INLINE void solveOrder(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination)
-{
-    if constexpr (!X::sharesMatrix)
-        solveUnrolled<T, N>(x, matrix, rhs, destination);
-    else if (x.count == 1)
-        solveShared<T, N, 1>(x, matrix, rhs, destination);
-    else
-        solveShared<T, N, lanes<T>>(x, matrix, rhs, destination);
-}
-
 } // namespace
 
 // The test on the order comes once a call, outside the loop over systems.
@@ -312,16 +370,15 @@ Status substitute(const X& x)
     const auto rhs = x.rhs.template view<Contiguous>(n);
     const auto destination = x.dst.template view<Contiguous>(n);
     if (x.count == 0) return stsOk; // a thread's empty share: its matrix may lie anywhere
-    switch (n)
-    {
-    case 3: solveOrder<T, 3>(x, matrix, rhs, destination); break;
-    case 4: solveOrder<T, 4>(x, matrix, rhs, destination); break;
-    case 5: solveOrder<T, 5>(x, matrix, rhs, destination); break;
-    case 6: solveOrder<T, 6>(x, matrix, rhs, destination); break;
-    default:
+    if (n < 3 || n > largestWrittenOut)
         for (int32 k = 0; k < x.count; ++k)
             ownLUBackSubstGeneral<T>(matrix.object(k), x.pivotsOf(k), rhs.object(k), destination.object(k), n);
-    }
+    else if constexpr (!X::sharesMatrix)
+        solveSeparate<T>(x, matrix, rhs, destination);
+    else if (x.count == 1)
+        solveShared<T, 1>(x, matrix, rhs, destination);
+    else
+        solveShared<T, lanes<T>>(x, matrix, rhs, destination);
     return stsOk;
 }
 
