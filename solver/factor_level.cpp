@@ -71,14 +71,12 @@ ZEPM_INLINE void clearColumn(Local<T, N, W>& m, int p)
     }
 }
 
-// The number of pivots that are not singular in any lane: N, or the step at which it ends. a becomes the rows of the
-// factors in the order of the pivots.
+// The number of pivots that are not singular in any lane: N, or the step at which it ends. The rows of result come to
+// stand in the order of the pivots.
 template <class T, int N, int W>
-[[gnu::noinline]] int eliminate(Vec<T, W>* a, Vec<IntOf<T>, W>* row)
+[[gnu::noinline]] int eliminate(Local<T, N, W>& result)
 {
-    Local<T, N, W> m;
-    ZEPM_UNROLL
-    for (int e = 0; e < N * N; ++e) m.a[e / N][e % N] = a[e];
+    Local<T, N, W> m = result;
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i) m.row[i] = broadcast<IntOf<T>, W>(i);
     int p = 0;
@@ -89,10 +87,7 @@ template <class T, int N, int W>
         if (any(absolute(m.a[p][p]) < broadcast<T, W>(tiny<T>))) break;
         if (p < N - 1) clearColumn(m, p);
     }
-    ZEPM_UNROLL
-    for (int e = 0; e < N * N; ++e) a[e] = m.a[e / N][e % N];
-    ZEPM_UNROLL
-    for (int i = 0; i < N; ++i) row[i] = m.row[i];
+    result = m;
     return p;
 }
 
@@ -105,19 +100,16 @@ ZEPM_INLINE LaneRows<W> rowsOf(const Local<T, N, W>& m, int p)
     return rows;
 }
 
-// A group, if none of its matrices is singular; otherwise nothing is written. But of one matrix the rows of the pivots in
-// front of a singular one are written, and all pivots. pivots are those of one lane after the other.
+// A group, if none of its matrices is singular; otherwise nothing is written. pivots are those of one lane after the
+// other.
 template <class T, int N, int W>
 [[gnu::noinline]] bool factorRows(const Group<const T, W>& source, char* pivots, const Group<T, W>& destination)
 {
     Local<T, N, W> m;
     readMatrix(source, m.a);
-    const int accepted = eliminate<T, N, W>(m.a[0], m.row);
-    if (W > 1 && accepted < N) return false;
+    if (eliminate(m) < N) return false;
     writePivotLanes<IntOf<T>, N, W>(pivots, m.row);
-    if constexpr (W == 1)
-        for (int p = 0; p < accepted; ++p) destination.template writeRow<N>(rowsOf(m, p), m.a[p]);
-    else if constexpr (permutesRows<N>)
+    if constexpr (permutesRows<N>)
     {
         Vec<T, W> d[N][N];
         putRows(m.a, m.row, d);
@@ -128,97 +120,81 @@ template <class T, int N, int W>
         ZEPM_UNROLL
         for (int p = 0; p < N; ++p) destination.template writeRow<N>(rowsOf(m, p), m.a[p]);
     }
-    return accepted == N;
+    return true;
 }
 
-// Matrices k to k + size - 1, of order n, into the lanes of a; lanes behind them repeat the last.
-template <class T, class Source>
-[[gnu::noinline]] void gather(const Source& source, int32 k, int32 size, int32 n, const LaneCopies<T>& a)
+// A group of any layout. As factorRows; but of a single matrix all pivots are written, and the rows of those in front of
+// a singular one.
+template <class T, int N, int W, class X, class Source, class Destination>
+[[gnu::noinline]] bool factorElements(const X& x, const Source& source, const Destination& destination, int32 k,
+                                      int32 size)
 {
-    for (int32 lane = 0; lane < a.width; ++lane)
+    Local<T, N, W> m;
+    for (int lane = 0; lane < W; ++lane)
     {
         const auto object = source.object(k + (lane < size ? lane : size - 1));
-        for (int32 i = 0; i < n; ++i)
-            for (int32 j = 0; j < n; ++j) a.set(i * n + j, lane, object.get(i, j));
+        for (int i = 0; i < N; ++i)
+        {
+            ZEPM_UNROLL
+            for (int j = 0; j < N; ++j) setLane<T>(m.a[i][j], lane, object.get(i, j));
+        }
     }
-}
-
-// And back: the rows of the accepted pivots, and all pivots.
-template <class T, class Destination>
-[[gnu::noinline]] void scatter(const LaneCopies<T>& a, const LaneCopies<IntOf<T>>& rows, int accepted, int32 k,
-                               int32 size, int32 n, const PivotBlock<int32>& pivots, const Destination& destination)
-{
-    for (int32 lane = 0; lane < size; ++lane)
+    const int accepted = eliminate(m);
+    if (W > 1 && accepted < N) return false;
+    for (int lane = 0; lane < size; ++lane)
     {
         const auto object = destination.object(k + lane);
-        for (int32 p = 0; p < n; ++p)
+        const auto pivots = x.pivots.object(k + lane, N);
+        for (int p = 0; p < N; ++p)
         {
-            const auto row = static_cast<int32>(rows.get(p, lane));
-            pivots.object(k + lane, n).set(p, row);
-            if (p < accepted)
-                for (int32 j = 0; j < n; ++j) object.set(row, j, a.get(p * n + j, lane));
+            const auto row = static_cast<int32>(getLane<IntOf<T>>(m.row[p], lane));
+            pivots.set(p, row);
+            if (p >= accepted) continue;
+            ZEPM_UNROLL
+            for (int j = 0; j < N; ++j) object.set(row, j, getLane<T>(m.a[p][j], lane));
         }
     }
+    return accepted == N;
 }
-
-template <class T, int W, class X, class Source, class Destination>
-struct Matrices
-{
-    const X& x;
-    const Source& source;
-    const Destination& destination;
-    using Rows = bool (*)(const Group<const T, W>&, char*, const Group<T, W>&);
-    using Copies = int (*)(Vec<T, W>*, Vec<IntOf<T>, W>*);
-    std::conditional_t<isContiguous<Source>, Rows, Copies> kernel = forOrder(x.widthHeight, []<int N>() {
-        if constexpr (isContiguous<Source>)
-            return Rows(factorRows<T, N, W>);
-        else
-            return Copies(eliminate<T, N, W>);
-    });
-
-    // Matrices k to k + size - 1, with what factorRows gives and leaves.
-    ZEPM_INLINE bool factor(int32 k, int32 size) const
-    {
-        const int32 n = x.widthHeight;
-        if constexpr (isContiguous<Source>)
-        {
-            const GroupPivots<int32, W> pivots(x.pivots, k, size, n);
-            const bool succeeds = kernel(Group<const T, W>(source, k, size), pivots.p, Group<T, W>(destination, k, size));
-            if (succeeds) pivots.finish(x.pivots, k, size, n);
-            return succeeds;
-        }
-        else
-        {
-            Vec<T, W> a[largestWrittenOut * largestWrittenOut];
-            Vec<IntOf<T>, W> row[largestWrittenOut];
-            gather(source, k, size, n, LaneCopies<T>(a, W));
-            const int accepted = kernel(a, row);
-            if (W == 1 || accepted == n)
-                scatter(LaneCopies<T>(a, W), LaneCopies<IntOf<T>>(row, W), accepted, k, size, n, x.pivots, destination);
-            return accepted == n;
-        }
-    }
-};
 
 // The first singular matrix ends the call: a group with one is done again matrix by matrix.
 template <class T, class X, class Source, class Destination>
 ZEPM_INLINE Status factorWrittenOut(const X& x, const Source& source, const Destination& destination)
 {
-    const Matrices<T, 1, X, Source, Destination> single{x, source, destination};
+    const int32 order = x.widthHeight;
+    const auto one = forOrder(order, []<int N>() { return &factorElements<T, N, 1, X, Source, Destination>; });
     if constexpr (!decltype(x.dst)::isArray)
-        return single.factor(0, 1) ? stsOk : stsSingularErr;
+        return one(x, source, destination, 0, 1) ? stsOk : stsSingularErr;
     else
     {
         constexpr int W = lanes<T>;
         constexpr int leastGroup = 2; // fewer matrices are not worth a group
-        const Matrices<T, W, X, Source, Destination> group{x, source, destination};
+        const auto group = forOrder(order, []<int N>() {
+            if constexpr (isContiguous<Source>)
+                return &factorRows<T, N, W>;
+            else
+                return &factorElements<T, N, W, X, Source, Destination>;
+        });
+        auto factorGroup = [&](int32 k, int32 size) __attribute__((always_inline))
+        {
+            if constexpr (isContiguous<Source>)
+            {
+                const GroupPivots<int32, W> pivots(x.pivots, k, size, order);
+                if (!group(Group<const T, W>(source, k, size), pivots.p, Group<T, W>(destination, k, size)))
+                    return false;
+                pivots.finish(x.pivots, k, size, order);
+                return true;
+            }
+            else
+                return group(x, source, destination, k, size);
+        };
         for (int32 left = x.count; left > 0; left -= W)
         {
             const int32 k = x.count - left;
             const int32 size = left < W ? left : W;
-            if (size >= leastGroup && group.factor(k, size)) continue;
+            if (size >= leastGroup && factorGroup(k, size)) continue;
             for (int32 n = k; n < k + size; ++n)
-                if (!single.factor(n, 1)) return stsSingularErr;
+                if (!one(x, source, destination, n, 1)) return stsSingularErr;
         }
         return stsOk;
     }

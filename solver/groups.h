@@ -296,7 +296,15 @@ ZEPM_INLINE void place(const StridedView<T, Contiguous, Fixed>& view, int32 k, i
                                    broadcast<ptrdiff_t, A>(reinterpret_cast<ptrdiff_t>(first + n * view.stride0)) + steps);
     }
     else
-        for (int n = 0; n < W; ++n) p[n] = view.object(k + (n < size ? n : size - 1)).p;
+    {
+        auto at = first;
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n)
+        {
+            p[n] = at;
+            at += n + 1 < size ? view.stride0 : 0;
+        }
+    }
 }
 template <class T, int W, bool Contiguous>
 ZEPM_INLINE void place(const ListView<T, Contiguous>& view, int32 k, int32 size, Bytes<T> (&p)[W])
@@ -406,26 +414,17 @@ inline constexpr bool isContiguous<StridedView<T, true, Fixed>> = true;
 template <class T>
 inline constexpr bool isContiguous<ListView<T, true>> = true;
 
-// Values in memory by element and lane: registers one after another, seen as their lanes.
-template <class T>
-struct LaneCopies
+// One lane of a register in memory.
+template <class T, class V>
+ZEPM_INLINE T getLane(const V& x, int lane)
 {
-    char* p;
-    int32 width;
-
-    template <class Registers>
-    ZEPM_INLINE LaneCopies(Registers& x, int32 numLanes) : p(reinterpret_cast<char*>(&x)), width(numLanes)
-    {
-    }
-    ZEPM_INLINE T get(int32 element, int32 lane) const { return load<T>(at(element, lane)); }
-    ZEPM_INLINE void set(int32 element, int32 lane, T x) const { store<T>(at(element, lane), x); }
-
-private:
-    ZEPM_INLINE char* at(int32 element, int32 lane) const
-    {
-        return p + (element * width + lane) * static_cast<ptrdiff_t>(sizeof(T));
-    }
-};
+    return load<T>(reinterpret_cast<const char*>(&x) + lane * static_cast<ptrdiff_t>(sizeof(T)));
+}
+template <class T, class V>
+ZEPM_INLINE void setLane(V& x, int lane, T value)
+{
+    store<T>(reinterpret_cast<char*>(&x) + lane * static_cast<ptrdiff_t>(sizeof(T)), value);
+}
 
 // The largest order that is written out; the smallest is 3.
 inline constexpr int largestWrittenOut = 6;
@@ -453,9 +452,9 @@ struct GroupPivots
     ZEPM_INLINE GroupPivots(const PivotBlock<I>& block, int32 k, int32 size, int32 n) : p(bytes(block.object(k, n).p))
     {
         if (W == 1 || size == W) return;
-        for (int32 lane = 0; lane < W; ++lane)
-            for (int32 i = 0; i < n; ++i)
-                copy[lane * n + i] = block.object(k + (lane < size ? lane : size - 1), n).get(i);
+        int32 e = 0;
+        for (; e < size * n; ++e) copy[e] = block.object(k, n).get(e);
+        for (; e < W * n; ++e) copy[e] = copy[e - n];
         p = bytes(copy);
     }
     // What has been written, from the copy to where it belongs.

@@ -118,59 +118,85 @@ template <class T, int N, int W>
     return true;
 }
 
-// ---- The same of elements at any distance, or behind tables ---------------------------------------------------------
-
-// The matrices of systems k to k + size - 1, of order n, into the lanes of f, their rows in pivot order. Lanes behind
-// them repeat the last.
-template <class T, class Matrix>
-[[gnu::noinline]] void gatherMatrices(const Matrix& matrix, const PivotBlock<const int32>& pivots, int32 k, int32 size,
-                                      int32 n, const LaneCopies<T>& f)
+// One system of any layout.
+template <class T, int N, class Matrix, class Rhs, class Destination>
+[[gnu::noinline]] void solveOne(const Matrix& matrix, const PivotObject<const int32>& pivots, const Rhs& rhs,
+                                const Destination& x)
 {
-    for (int32 lane = 0; lane < f.width; ++lane)
+    int32 row[N];
+    T y[N];
+    ZEPM_UNROLL
+    for (int i = 0; i < N; ++i)
     {
-        const int32 system = k + (lane < size ? lane : size - 1);
-        const auto object = matrix.object(system);
-        for (int32 i = 0; i < n; ++i)
-        {
-            const int32 row = pivots.object(system, n).get(i);
-            for (int32 j = 0; j < n; ++j) f.set(i * n + j, lane, object.get(row, j));
-        }
+        row[i] = pivots.get(i);
+        y[i] = rhs.get(0, row[i]);
     }
+    solveDividing(
+        [&](int i, int j) __attribute__((always_inline)) { return matrix.get(row[i], j); }, y);
+    ZEPM_UNROLL
+    for (int i = 0; i < N; ++i) x.set(0, i, y[i]);
 }
 
-// Their right-hand sides in that order.
-template <class T, class X, class Rhs>
-[[gnu::noinline]] void gatherRhs(const X& x, const Rhs& rhs, int32 k, int32 size, int32 n, const LaneCopies<T>& y)
+// ---- Groups of elements at any distance, or behind tables -----------------------------------------------------------
+
+// The right-hand sides of systems k to k + size - 1 in the order of their pivots. Lanes behind them repeat the last.
+template <class T, int N, int W, class X, class Rhs>
+ZEPM_INLINE void gatherRhs(const X& x, const Rhs& rhs, int32 k, int32 size, Vec<T, W> (&y)[N])
 {
-    for (int32 lane = 0; lane < y.width; ++lane)
+    for (int lane = 0; lane < W; ++lane)
     {
         const int32 system = k + (lane < size ? lane : size - 1);
         const auto object = rhs.object(system);
-        for (int32 i = 0; i < n; ++i) y.set(i, lane, object.get(0, x.pivotsOf(system).get(i)));
+        const auto pivots = x.pivotsOf(system);
+        ZEPM_UNROLL
+        for (int i = 0; i < N; ++i) setLane<T>(y[i], lane, object.get(0, pivots.get(i)));
     }
 }
 
-template <class T, class Destination>
-[[gnu::noinline]] void scatterSolutions(const LaneCopies<T>& y, int32 k, int32 size, int32 n,
-                                        const Destination& destination)
+template <class T, int N, int W, class Destination>
+ZEPM_INLINE void scatterSolutions(const Vec<T, W> (&y)[N], int32 k, int32 size, const Destination& destination)
 {
-    for (int32 lane = 0; lane < size; ++lane)
+    for (int lane = 0; lane < size; ++lane)
     {
         const auto object = destination.object(k + lane);
-        for (int32 i = 0; i < n; ++i) object.set(0, i, y.get(i, lane));
+        ZEPM_UNROLL
+        for (int i = 0; i < N; ++i) object.set(0, i, getLane<T>(y[i], lane));
     }
 }
 
 template <class T, int N, int W>
-[[gnu::noinline]] void solveCopies(const Vec<T, W>* f, Vec<T, W>* inOut)
+[[gnu::noinline]] void solveCopies(const Vec<T, W> (&f)[N][N], Vec<T, W> (&inOut)[N])
 {
     Vec<T, W> y[N];
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i) y[i] = inOut[i];
     solveDividing(
-        [&](int i, int j) __attribute__((always_inline)) { return f[i * N + j]; }, y);
+        [&](int i, int j) __attribute__((always_inline)) { return f[i][j]; }, y);
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i) inOut[i] = y[i];
+}
+
+template <class T, int N, int W, class X, class Matrix, class Rhs, class Destination>
+[[gnu::noinline]] bool solveElements(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination,
+                                     int32 k, int32 size)
+{
+    Vec<T, W> f[N][N], y[N];
+    for (int lane = 0; lane < W; ++lane)
+    {
+        const int32 system = k + (lane < size ? lane : size - 1);
+        const auto object = matrix.object(system);
+        const auto pivots = x.pivotsOf(system);
+        for (int i = 0; i < N; ++i)
+        {
+            const int32 row = pivots.get(i);
+            ZEPM_UNROLL
+            for (int j = 0; j < N; ++j) setLane<T>(f[i][j], lane, object.get(row, j));
+        }
+    }
+    gatherRhs<T, N, W>(x, rhs, k, size, y);
+    solveCopies<T, N, W>(f, y);
+    scatterSolutions<T, N, W>(y, k, size, destination);
+    return true;
 }
 
 // ---- Systems with one matrix between them: its diagonal is inverted once --------------------------------------------
@@ -182,14 +208,15 @@ struct SharedFactors
     int32 row[largestWrittenOut];
     bool rowsInside = true; // of the right-hand side too
 
-    template <class Matrix>
-    [[gnu::noinline]] SharedFactors(const Matrix& matrix, const PivotObject<const int32>& pivots, int32 n)
+    template <int N, class Matrix>
+    [[gnu::noinline]] void read(const Matrix& matrix, const PivotObject<const int32>& pivots)
     {
-        for (int i = 0; i < n; ++i)
+        for (int i = 0; i < N; ++i)
         {
             row[i] = pivots.get(i);
-            rowsInside = rowsInside && row[i] >= 0 && row[i] < n;
-            for (int j = 0; j < n; ++j) f[i * n + j] = broadcast<T, W>(matrix.get(row[i], j));
+            rowsInside = rowsInside && row[i] >= 0 && row[i] < N;
+            ZEPM_UNROLL
+            for (int j = 0; j < N; ++j) f[i * N + j] = broadcast<T, W>(matrix.get(row[i], j));
             reciprocal[i] = broadcast<T, W>(1 / matrix.get(row[i], i));
         }
     }
@@ -221,77 +248,58 @@ template <class T, int N, int W>
     destination.template writeVectors<N>(y);
 }
 
-template <class T, int N, int W>
-[[gnu::noinline]] void solveSharedCopies(const SharedFactors<T, W>& shared, Vec<T, W>* inOut)
+template <class T, int N, int W, class X, class Rhs, class Destination>
+[[gnu::noinline]] void solveSharedElements(const SharedFactors<T, W>& shared, const X& x, const Rhs& rhs,
+                                           const Destination& destination, int32 k, int32 size)
 {
     Vec<T, W> y[N];
-    ZEPM_UNROLL
-    for (int i = 0; i < N; ++i) y[i] = inOut[i];
+    gatherRhs<T, N, W>(x, rhs, k, size, y);
     shared.solve(y);
-    ZEPM_UNROLL
-    for (int i = 0; i < N; ++i) inOut[i] = y[i];
+    scatterSolutions<T, N, W>(y, k, size, destination);
 }
 
 // ---- Groups of systems ----------------------------------------------------------------------------------------------
 
-template <class T, int W, class X, class Matrix, class Rhs, class Destination>
-struct SeparateSystems
-{
-    const X& x;
-    const Matrix& matrix;
-    const Rhs& rhs;
-    const Destination& destination;
-    using Rows = bool (*)(const Group<const T, W>&, const char*, const Group<const T, W>&, const Group<T, W>&);
-    using Copies = void (*)(const Vec<T, W>*, Vec<T, W>*);
-    std::conditional_t<isContiguous<Matrix>, Rows, Copies> kernel = forOrder(x.widthHeight, []<int N>() {
-        if constexpr (isContiguous<Matrix>)
-            return Rows(solveRows<T, N, W>);
-        else
-            return Copies(solveCopies<T, N, W>);
-    });
-
-    // Systems k to k + size - 1; false, and nothing is written, as in solveRows.
-    ZEPM_INLINE bool solve(int32 k, int32 size) const
-    {
-        const int32 n = x.widthHeight;
-        if constexpr (isContiguous<Matrix>)
-        {
-            const GroupPivots<const int32, W> pivots(x.pivots, k, size, n);
-            return kernel(Group<const T, W>(matrix, k, size), pivots.p, Group<const T, W>(rhs, k, size),
-                          Group<T, W>(destination, k, size));
-        }
-        else
-        {
-            Vec<T, W> f[largestWrittenOut * largestWrittenOut], y[largestWrittenOut];
-            gatherMatrices(matrix, x.pivots, k, size, n, LaneCopies<T>(f, W));
-            gatherRhs(x, rhs, k, size, n, LaneCopies<T>(y, W));
-            kernel(f, y);
-            scatterSolutions(LaneCopies<T>(y, W), k, size, n, destination);
-            return true;
-        }
-    }
-};
-
 template <class T, class X, class Matrix, class Rhs, class Destination>
 ZEPM_INLINE void solveSeparate(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination)
 {
-    const SeparateSystems<T, 1, X, Matrix, Rhs, Destination> single{x, matrix, rhs, destination};
+    const int32 order = x.widthHeight;
+    const auto one = forOrder(order, []<int N>() {
+        return &solveOne<T, N, decltype(matrix.object(0)), decltype(rhs.object(0)), decltype(destination.object(0))>;
+    });
     if constexpr (decltype(x.dst)::isArray)
     {
         constexpr int W = lanes<T>;
         constexpr int leastGroup = 2; // fewer systems are not worth a group
-        const SeparateSystems<T, W, X, Matrix, Rhs, Destination> group{x, matrix, rhs, destination};
+        const auto group = forOrder(order, []<int N>() {
+            if constexpr (isContiguous<Matrix>)
+                return &solveRows<T, N, W>;
+            else
+                return &solveElements<T, N, W, X, Matrix, Rhs, Destination>;
+        });
+        auto solveGroup = [&](int32 k, int32 size) __attribute__((always_inline))
+        {
+            if constexpr (isContiguous<Matrix>)
+            {
+                const GroupPivots<const int32, W> pivots(x.pivots, k, size, order);
+                return group(Group<const T, W>(matrix, k, size), pivots.p, Group<const T, W>(rhs, k, size),
+                             Group<T, W>(destination, k, size));
+            }
+            else
+                return group(x, matrix, rhs, destination, k, size);
+        };
         for (int32 left = x.count; left > 0; left -= W)
         {
             const int32 k = x.count - left;
             const int32 size = left < W ? left : W;
-            if (size >= leastGroup && group.solve(k, size)) continue;
-            for (int32 n = k; n < k + size; ++n) single.solve(n, 1);
+            if (size >= leastGroup && solveGroup(k, size)) continue;
+            for (int32 n = k; n < k + size; ++n)
+                one(matrix.object(n), x.pivotsOf(n), rhs.object(n), destination.object(n));
         }
     }
     else
     {
-        single.solve(0, 1);
+        one(matrix.object(0), x.pivotsOf(0), rhs.object(0), destination.object(0));
     }
 }
 
@@ -299,26 +307,22 @@ template <class T, int W, class X, class Matrix, class Rhs, class Destination>
 ZEPM_INLINE void solveShared(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination)
 {
     const int32 order = x.widthHeight;
-    const SharedFactors<T, W> shared(matrix.object(0), x.pivots.object(0, order), order);
-    const auto kernel = forOrder(order, []<int N>() {
+    SharedFactors<T, W> shared;
+    forOrder(order, [&]<int N>() { shared.template read<N>(matrix.object(0), x.pivots.object(0, N)); });
+    const auto group = forOrder(order, []<int N>() {
         if constexpr (isContiguous<Rhs>)
             return &solveSharedRows<T, N, W>;
         else
-            return &solveSharedCopies<T, N, W>;
+            return &solveSharedElements<T, N, W, X, Rhs, Destination>;
     });
     for (int32 left = x.count; left > 0; left -= W)
     {
         const int32 k = x.count - left;
         const int32 size = left < W ? left : W;
         if constexpr (isContiguous<Rhs>)
-            kernel(shared, Group<const T, W>(rhs, k, size), Group<T, W>(destination, k, size));
+            group(shared, Group<const T, W>(rhs, k, size), Group<T, W>(destination, k, size));
         else
-        {
-            Vec<T, W> y[largestWrittenOut];
-            gatherRhs(x, rhs, k, size, order, LaneCopies<T>(y, W));
-            kernel(shared, y);
-            scatterSolutions(LaneCopies<T>(y, W), k, size, order, destination);
-        }
+            group(shared, x, rhs, destination, k, size);
     }
 }
 
