@@ -46,7 +46,7 @@ inline constexpr bool permutesPieces = registerBytes > 16 && sizeof(T) == 4 && N
 
 // Element row of each lane of a piece for that lane; row is taken modulo 4.
 template <int W>
-ZEPM_INLINE Vec<float32, W> permutedPieces(Vec<float32, W> x, Vec<int32, W> row)
+ZEPM_INLINE Vec<float32, W> permutedPieces([[maybe_unused]] Vec<float32, W> x, [[maybe_unused]] Vec<int32, W> row)
 {
 #if defined(__AVX512F__)
     if constexpr (W == 16)
@@ -328,38 +328,101 @@ ZEPM_INLINE void solveShared(const X& x, const Matrix& matrix, const Rhs& rhs, c
 
 // ---- All other orders -----------------------------------------------------------------------------------------------
 
-// The sum of f(row, j) * x(j) for j from first to last - 1, in two accumulators: a term to each by turns, an odd last
-// term to their sum.
-template <class T, class Matrix, class Destination>
-ZEPM_INLINE T dotProduct(const Matrix& f, int32 row, const Destination& x, int32 first, int32 last)
+// K systems together: one by itself would wait for each of its sums.
+template <class T, int K, class Matrix, class Rhs, class Destination>
+struct Systems
 {
-    T even = 0, odd = 0;
-    int32 j = first;
-    for (; last - j >= 2; j += 2)
-    {
-        even = even + f.get(row, j) * x.get(0, j);
-        odd = odd + f.get(row, j + 1) * x.get(0, j + 1);
-    }
-    even = even + odd;
-    return j < last ? even + f.get(row, j) * x.get(0, j) : even;
-}
+    Matrix f[K];
+    PivotObject<const int32> pivots[K];
+    Rhs b[K];
+    Destination x[K];
+    int32 row[K];
 
-template <class T, class Matrix, class Rhs, class Destination>
-[[gnu::noinline]] void ownLUBackSubstGeneral(const Matrix& f, const PivotObject<const int32>& pivots, const Rhs& b,
-                                             const Destination& x, int32 n)
-{
-    x.set(0, 0, b.get(0, pivots.get(0)));
-    for (int32 i = 1; i < n; ++i)
+    ZEPM_INLINE void toRow(int32 i)
     {
-        const int32 row = pivots.get(i);
-        x.set(0, i, b.get(0, row) - dotProduct<T>(f, row, x, 0, i));
+        ZEPM_UNROLL
+        for (int s = 0; s < K; ++s) row[s] = pivots[s].get(i);
+    }
+
+    // The sums of f(row, j) * x(j) for j from first to last - 1, each in two accumulators: a term to each by turns, an
+    // odd last term to their sum.
+    ZEPM_INLINE void dotProducts(int32 first, int32 last, T (&sum)[K]) const
+    {
+        T odd[K];
+        ZEPM_UNROLL
+        for (int s = 0; s < K; ++s) sum[s] = odd[s] = 0;
+        int32 j = first;
+        for (; last - j >= 2; j += 2)
+        {
+            ZEPM_UNROLL
+            for (int s = 0; s < K; ++s)
+            {
+                sum[s] = sum[s] + f[s].get(row[s], j) * x[s].get(0, j);
+                odd[s] = odd[s] + f[s].get(row[s], j + 1) * x[s].get(0, j + 1);
+            }
+        }
+        ZEPM_UNROLL
+        for (int s = 0; s < K; ++s)
+        {
+            sum[s] = sum[s] + odd[s];
+            if (j < last) sum[s] = sum[s] + f[s].get(row[s], j) * x[s].get(0, j);
+        }
+    }
+};
+
+template <class T, int K, class Matrix, class Rhs, class Destination>
+[[gnu::noinline]] void ownLUBackSubstGeneral(Systems<T, K, Matrix, Rhs, Destination> systems, int32 n)
+{
+    auto& [f, pivots, b, x, row] = systems;
+    T sum[K];
+    for (int32 i = 0; i < n; ++i)
+    {
+        systems.toRow(i);
+        if (i > 0) systems.dotProducts(0, i, sum);
+        ZEPM_UNROLL
+        for (int s = 0; s < K; ++s)
+        {
+            const T y = b[s].get(0, row[s]);
+            x[s].set(0, i, i > 0 ? y - sum[s] : y);
+        }
     }
     for (int32 i = n - 1; i >= 0; --i)
     {
-        const int32 row = pivots.get(i);
-        const T y = x.get(0, i);
-        x.set(0, i, (i == n - 1 ? y : y - dotProduct<T>(f, row, x, i + 1, n)) / f.get(row, i));
+        systems.toRow(i);
+        if (i < n - 1) systems.dotProducts(i + 1, n, sum);
+        ZEPM_UNROLL
+        for (int s = 0; s < K; ++s)
+        {
+            const T y = x[s].get(0, i);
+            x[s].set(0, i, (i < n - 1 ? y - sum[s] : y) / f[s].get(row[s], i));
+        }
     }
+}
+
+template <class T, int K, class X, class Matrix, class Rhs, class Destination>
+ZEPM_INLINE void solveTogether(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination,
+                               int32 k)
+{
+    Systems<T, K, decltype(matrix.object(0)), decltype(rhs.object(0)), decltype(destination.object(0))> systems;
+    ZEPM_UNROLL
+    for (int s = 0; s < K; ++s)
+    {
+        systems.f[s] = matrix.object(k + s);
+        systems.pivots[s] = x.pivotsOf(k + s);
+        systems.b[s] = rhs.object(k + s);
+        systems.x[s] = destination.object(k + s);
+    }
+    ownLUBackSubstGeneral(systems, x.widthHeight);
+}
+
+template <class T, class X, class Matrix, class Rhs, class Destination>
+ZEPM_INLINE void solveLooping(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination)
+{
+    constexpr int K = 4;
+    int32 k = 0;
+    if constexpr (isContiguous<Matrix> && decltype(x.dst)::isArray)
+        for (; x.count - k >= K; k += K) solveTogether<T, K>(x, matrix, rhs, destination, k);
+    for (; k < x.count; ++k) solveTogether<T, 1>(x, matrix, rhs, destination, k);
 }
 
 } // namespace
@@ -375,8 +438,7 @@ Status substitute(const X& x)
     const auto destination = x.dst.template view<Contiguous>(n);
     if (x.count == 0) return stsOk; // a thread's empty share: its matrix may lie anywhere
     if (n < 3 || n > largestWrittenOut)
-        for (int32 k = 0; k < x.count; ++k)
-            ownLUBackSubstGeneral<T>(matrix.object(k), x.pivotsOf(k), rhs.object(k), destination.object(k), n);
+        solveLooping<T>(x, matrix, rhs, destination);
     else if constexpr (!X::sharesMatrix)
         solveSeparate<T>(x, matrix, rhs, destination);
     else if (x.count == 1)
