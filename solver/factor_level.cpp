@@ -1,7 +1,7 @@
 // LU factors with partial pivoting. Rows are never moved in memory: the pivots tell which row stands where.
 //
-// Orders 3 to 6 are straight-line code on a local matrix, in arrays one matrix in each lane. All other orders are
-// eliminated in the destination.
+// Orders 3 to 6 are straight-line code on a local matrix, in arrays one matrix in each lane: rows without gaps move by
+// pieces, all other layouts element by element. All other orders are eliminated in the destination.
 #include "solver/factor.h"
 #include "solver/groups.h"
 
@@ -123,48 +123,69 @@ template <class T, int N, int W>
     return true;
 }
 
-// A group of any layout. As factorRows; but of a single matrix all pivots are written, and the rows of those in front of
-// a singular one.
-template <class T, int N, int W, class X, class Source, class Destination>
-[[gnu::noinline]] bool factorElements(const X& x, const Source& source, const Destination& destination, int32 k,
-                                      int32 size)
+// ---- The same, element by element: single matrices, and groups of any layout ----------------------------------------
+
+template <class T, int N, int W, class Source>
+ZEPM_INLINE void readLane(Local<T, N, W>& m, int lane, const Source& source)
+{
+    for (int i = 0; i < N; ++i)
+    {
+        ZEPM_UNROLL
+        for (int j = 0; j < N; ++j) setLane<T>(m.a[i][j], lane, source.get(i, j));
+    }
+}
+
+// All pivots, and the rows of the accepted ones.
+template <class T, int N, int W, class Destination>
+ZEPM_INLINE void writeLane(const Local<T, N, W>& m, int lane, int accepted, const PivotObject<int32>& pivots,
+                           const Destination& destination)
+{
+    for (int p = 0; p < N; ++p)
+    {
+        const auto row = static_cast<int32>(getLane<IntOf<T>>(m.row[p], lane));
+        pivots.set(p, row);
+        if (p >= accepted) continue;
+        ZEPM_UNROLL
+        for (int j = 0; j < N; ++j) destination.set(row, j, getLane<T>(m.a[p][j], lane));
+    }
+}
+
+template <class T, int N, class Source, class Destination>
+[[gnu::noinline]] Status factorOne(const Source& source, const PivotObject<int32>& pivots,
+                                   const Destination& destination)
+{
+    Local<T, N, 1> m;
+    readLane(m, 0, source);
+    const int accepted = eliminate(m);
+    writeLane(m, 0, accepted, pivots, destination);
+    return accepted == N ? stsOk : stsSingularErr;
+}
+
+// As factorRows.
+template <class T, int N, int W, class Source, class Destination>
+[[gnu::noinline]] bool factorElements(const Source& source, const PivotBlock<int32>& pivots,
+                                      const Destination& destination, int32 k, int32 size)
 {
     Local<T, N, W> m;
-    for (int lane = 0; lane < W; ++lane)
-    {
-        const auto object = source.object(k + (lane < size ? lane : size - 1));
-        for (int i = 0; i < N; ++i)
-        {
-            ZEPM_UNROLL
-            for (int j = 0; j < N; ++j) setLane<T>(m.a[i][j], lane, object.get(i, j));
-        }
-    }
-    const int accepted = eliminate(m);
-    if (W > 1 && accepted < N) return false;
+    for (int lane = 0; lane < W; ++lane) readLane(m, lane, source.object(k + (lane < size ? lane : size - 1)));
+    if (eliminate(m) < N) return false;
     for (int lane = 0; lane < size; ++lane)
-    {
-        const auto object = destination.object(k + lane);
-        const auto pivots = x.pivots.object(k + lane, N);
-        for (int p = 0; p < N; ++p)
-        {
-            const auto row = static_cast<int32>(getLane<IntOf<T>>(m.row[p], lane));
-            pivots.set(p, row);
-            if (p >= accepted) continue;
-            ZEPM_UNROLL
-            for (int j = 0; j < N; ++j) object.set(row, j, getLane<T>(m.a[p][j], lane));
-        }
-    }
-    return accepted == N;
+        writeLane(m, lane, N, pivots.object(k + lane, N), destination.object(k + lane));
+    return true;
 }
+
+// ---- Arrays of matrices ---------------------------------------------------------------------------------------------
 
 // The first singular matrix ends the call: a group with one is done again matrix by matrix.
 template <class T, class X, class Source, class Destination>
 ZEPM_INLINE Status factorWrittenOut(const X& x, const Source& source, const Destination& destination)
 {
     const int32 order = x.widthHeight;
-    const auto one = forOrder(order, []<int N>() { return &factorElements<T, N, 1, X, Source, Destination>; });
+    const auto one = forOrder(order, []<int N>() {
+        return &factorOne<T, N, decltype(source.object(0)), decltype(destination.object(0))>;
+    });
     if constexpr (!decltype(x.dst)::isArray)
-        return one(x, source, destination, 0, 1) ? stsOk : stsSingularErr;
+        return one(source.object(0), x.pivots.object(0, order), destination.object(0));
     else
     {
         constexpr int W = lanes<T>;
@@ -173,7 +194,7 @@ ZEPM_INLINE Status factorWrittenOut(const X& x, const Source& source, const Dest
             if constexpr (isContiguous<Source>)
                 return &factorRows<T, N, W>;
             else
-                return &factorElements<T, N, W, X, Source, Destination>;
+                return &factorElements<T, N, W, Source, Destination>;
         });
         auto factorGroup = [&](int32 k, int32 size) __attribute__((always_inline))
         {
@@ -186,7 +207,7 @@ ZEPM_INLINE Status factorWrittenOut(const X& x, const Source& source, const Dest
                 return true;
             }
             else
-                return group(x, source, destination, k, size);
+                return group(source, x.pivots, destination, k, size);
         };
         for (int32 left = x.count; left > 0; left -= W)
         {
@@ -194,7 +215,8 @@ ZEPM_INLINE Status factorWrittenOut(const X& x, const Source& source, const Dest
             const int32 size = left < W ? left : W;
             if (size >= leastGroup && factorGroup(k, size)) continue;
             for (int32 n = k; n < k + size; ++n)
-                if (!one(x, source, destination, n, 1)) return stsSingularErr;
+                if (const Status status = one(source.object(n), x.pivots.object(n, order), destination.object(n)))
+                    return status;
         }
         return stsOk;
     }

@@ -289,11 +289,14 @@ ZEPM_INLINE void place(const StridedView<T, Contiguous, Fixed>& view, int32 k, i
         for (int n = 0; n < W; ++n) p[n] = first;
     else if (size == W)
     {
-        const auto steps = eachLane<ptrdiff_t, A>([&](int n) __attribute__((always_inline)) { return n * view.stride0; });
+        const auto steps =
+            eachLane<ptrdiff_t, A>([&](int n) __attribute__((always_inline)) { return n * view.stride0; });
         ZEPM_UNROLL
         for (int n = 0; n < W; n += A)
-            storeVec<ptrdiff_t, A>(reinterpret_cast<char*>(p + n),
-                                   broadcast<ptrdiff_t, A>(reinterpret_cast<ptrdiff_t>(first + n * view.stride0)) + steps);
+        {
+            const auto at = reinterpret_cast<ptrdiff_t>(first + n * view.stride0);
+            storeVec<ptrdiff_t, A>(reinterpret_cast<char*>(p + n), broadcast<ptrdiff_t, A>(at) + steps);
+        }
     }
     else
     {
@@ -311,11 +314,13 @@ ZEPM_INLINE void place(const ListView<T, Contiguous>& view, int32 k, int32 size,
 {
     constexpr int A = W < lanes<ptrdiff_t> ? W : lanes<ptrdiff_t>;
     if (size == W)
+    {
         ZEPM_UNROLL
         for (int n = 0; n < W; n += A)
             storeVec<ptrdiff_t, A>(reinterpret_cast<char*>(p + n),
                                    loadVec<ptrdiff_t, A>(reinterpret_cast<const char*>(view.pp + k + n)) +
                                        broadcast<ptrdiff_t, A>(view.shift));
+    }
     else
         for (int n = 0; n < W; ++n) p[n] = view.object(k + (n < size ? n : size - 1)).p;
 }
@@ -405,8 +410,8 @@ struct Group
     }
 };
 
-// The objects of a view without contiguous rows go through copies, one in each lane. An element is copied at a time, by
-// loops that stay loops: what is unrolled stands for contiguous rows alone.
+// Whether groups move by pieces. All others go through copies in lanes, an element at a time, by loops over the lanes
+// that stay loops: it is the unrolled code that takes the compiler long.
 template <class View>
 inline constexpr bool isContiguous = false;
 template <class T, bool Fixed>

@@ -1,7 +1,7 @@
 // Solutions from LU factors: L y = b with the rows of b in pivot order, then U x = y. Nothing is tested.
 //
-// Orders 3 to 6 are straight-line code on local values, in arrays one system in each lane. All other orders work in the
-// destination.
+// Orders 3 to 6 are straight-line code on local values, in arrays one system in each lane: rows without gaps move by
+// pieces, all other layouts element by element. All other orders work in the destination, several systems in turn.
 #include "solver/groups.h"
 #include "solver/substitute.h"
 
