@@ -447,8 +447,8 @@ ZEPM_INLINE auto forOrder(int32 n, F f)
     }
 }
 
-// The pivots of a group: the n of each lane one after the other. I is int32 or const int32. Where lanes repeat an object
-// the pivots are in a copy of their own.
+// The pivots of a group: the n of each lane one after the other. I is int32 or const int32. Where lanes repeat an
+// object the pivots are in a copy of their own.
 template <class I, int W>
 struct GroupPivots
 {
