@@ -1,7 +1,7 @@
 // LU factors with partial pivoting. Rows are never moved in memory: the pivots tell which row stands where.
 //
-// Orders 3 to 6 are straight-line code on a local matrix, in arrays one matrix in each lane. All other orders are
-// eliminated in the destination.
+// Orders 3 to 6 are straight-line code on a local matrix, in arrays one matrix in each lane: rows without gaps move by
+// pieces, all other layouts element by element. All other orders are eliminated in the destination.
 #include "solver/factor.h"
 #include "solver/groups.h"
 
@@ -71,11 +71,14 @@ ZEPM_INLINE void clearColumn(Local<T, N, W>& m, int p)
     }
 }
 
-// The number of pivots that are not singular in any lane: N, or the step at which it ends.
+// The number of pivots that are not singular in any lane: N, or the step at which it ends. The rows of result come to
+// stand in the order of the pivots.
 template <class T, int N, int W>
 [[gnu::noinline]] int eliminate(Local<T, N, W>& result)
 {
     Local<T, N, W> m = result;
+    ZEPM_UNROLL
+    for (int i = 0; i < N; ++i) m.row[i] = broadcast<IntOf<T>, W>(i);
     int p = 0;
     ZEPM_UNROLL
     for (; p < N; ++p)
@@ -88,59 +91,29 @@ template <class T, int N, int W>
     return p;
 }
 
-template <class T, int N, int W, class Source>
-ZEPM_INLINE void read(Local<T, N, W>& m, const Group<Source, W>& source)
-{
-    readMatrix<T>(source, m.a);
-    ZEPM_UNROLL
-    for (int32 i = 0; i < N; ++i) m.row[i] = broadcast<IntOf<T>, W>(i);
-}
-
 template <class T, int N, int W>
 ZEPM_INLINE LaneRows<W> rowsOf(const Local<T, N, W>& m, int p)
 {
     LaneRows<W> rows;
-    if constexpr (W == 1)
-        rows.row[0] = static_cast<int32>(m.row[p]);
-    else
-    {
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n) rows.row[n] = static_cast<int32>(m.row[p][n]);
-    }
+    ZEPM_UNROLL
+    for (int n = 0; n < W; ++n) rows.row[n] = static_cast<int32>(laneOf<W>(m.row[p], n));
     return rows;
 }
 
-// One matrix: the rows of the pivots in front of a singular one are written.
-template <class T, int N, class Source, class Destination>
-[[gnu::noinline]] Status factorOne(const Group<Source, 1>& source, const PivotObject<int32>& pivots,
-                                   const Group<Destination, 1>& destination)
-{
-    Local<T, N, 1> m;
-    read(m, source);
-    const int accepted = eliminate(m);
-    for (int p = 0; p < N; ++p)
-    {
-        const LaneRows<1> rows = rowsOf(m, p);
-        pivots.set(p, rows.row[0]);
-        if (p < accepted) destination.template writeRow<N>(rows, m.a[p]);
-    }
-    return accepted == N ? stsOk : stsSingularErr;
-}
-
-// A group, if none of its matrices is singular; otherwise nothing is written.
-template <class T, int N, int W, class Source, class Destination>
-[[gnu::noinline]] bool factorGroup(const Group<Source, W>& source, const GroupPivots<int32, N, W>& pivots,
-                                   const Group<Destination, W>& destination)
+// A group, if none of its matrices is singular; otherwise nothing is written. pivots are those of one lane after the
+// other.
+template <class T, int N, int W>
+[[gnu::noinline]] bool factorRows(const Group<const T, W>& source, char* pivots, const Group<T, W>& destination)
 {
     Local<T, N, W> m;
-    read(m, source);
+    readMatrix(source, m.a);
     if (eliminate(m) < N) return false;
-    pivots.template writeLanes<IntOf<T>>(m.row);
+    writePivotLanes<IntOf<T>, N, W>(pivots, m.row);
     if constexpr (permutesRows<N>)
     {
         Vec<T, W> d[N][N];
         putRows(m.a, m.row, d);
-        writeMatrix<T>(destination, d);
+        writeMatrix(destination, d);
     }
     else
     {
@@ -150,27 +123,99 @@ template <class T, int N, int W, class Source, class Destination>
     return true;
 }
 
-// The first singular matrix ends the call: a group with one is done again matrix by matrix.
-template <class T, int N, class X, class Source, class Destination>
-ZEPM_INLINE Status factorUnrolled(const X& x, const Source& source, const Destination& destination)
+// ---- The same, element by element: single matrices, and groups of any layout ----------------------------------------
+
+template <class T, int N, int W, class Source>
+ZEPM_INLINE void readLane(Local<T, N, W>& m, int lane, const Source& source)
 {
+    for (int i = 0; i < N; ++i)
+    {
+        ZEPM_UNROLL
+        for (int j = 0; j < N; ++j) setLane<T>(m.a[i][j], lane, source.get(i, j));
+    }
+}
+
+// All pivots, and the rows of the accepted ones.
+template <class T, int N, int W, class Destination>
+ZEPM_INLINE void writeLane(const Local<T, N, W>& m, int lane, int accepted, const PivotObject<int32>& pivots,
+                           const Destination& destination)
+{
+    for (int p = 0; p < N; ++p)
+    {
+        const auto row = static_cast<int32>(getLane<IntOf<T>>(m.row[p], lane));
+        pivots.set(p, row);
+        if (p >= accepted) continue;
+        ZEPM_UNROLL
+        for (int j = 0; j < N; ++j) destination.set(row, j, getLane<T>(m.a[p][j], lane));
+    }
+}
+
+template <class T, int N, class Source, class Destination>
+[[gnu::noinline]] Status factorOne(const Source& source, const PivotObject<int32>& pivots,
+                                   const Destination& destination)
+{
+    Local<T, N, 1> m;
+    readLane(m, 0, source);
+    const int accepted = eliminate(m);
+    writeLane(m, 0, accepted, pivots, destination);
+    return accepted == N ? stsOk : stsSingularErr;
+}
+
+// As factorRows.
+template <class T, int N, int W, class Source, class Destination>
+[[gnu::noinline]] bool factorElements(const Source& source, const PivotBlock<int32>& pivots,
+                                      const Destination& destination, int32 k, int32 size)
+{
+    Local<T, N, W> m;
+    for (int lane = 0; lane < W; ++lane) readLane(m, lane, source.object(k + (lane < size ? lane : size - 1)));
+    if (eliminate(m) < N) return false;
+    for (int lane = 0; lane < size; ++lane)
+        writeLane(m, lane, N, pivots.object(k + lane, N), destination.object(k + lane));
+    return true;
+}
+
+// ---- Arrays of matrices ---------------------------------------------------------------------------------------------
+
+// The first singular matrix ends the call: a group with one is done again matrix by matrix.
+template <class T, class X, class Source, class Destination>
+ZEPM_INLINE Status factorWrittenOut(const X& x, const Source& source, const Destination& destination)
+{
+    const int32 order = x.widthHeight;
+    const auto one = forOrder(order, []<int N>() {
+        return &factorOne<T, N, decltype(source.object(0)), decltype(destination.object(0))>;
+    });
     if constexpr (!decltype(x.dst)::isArray)
-        return factorOne<T, N>(groupOf<1>(source, 0, 1), x.pivots.object(0, N), groupOf<1>(destination, 0, 1));
+        return one(source.object(0), x.pivots.object(0, order), destination.object(0));
     else
     {
         constexpr int W = lanes<T>;
         constexpr int leastGroup = 2; // fewer matrices are not worth a group
+        const auto group = forOrder(order, []<int N>() {
+            if constexpr (isContiguous<Source>)
+                return &factorRows<T, N, W>;
+            else
+                return &factorElements<T, N, W, Source, Destination>;
+        });
+        auto factorGroup = [&](int32 k, int32 size) __attribute__((always_inline))
+        {
+            if constexpr (isContiguous<Source>)
+            {
+                const GroupPivots<int32, W> pivots(x.pivots, k, size, order);
+                if (!group(Group<const T, W>(source, k, size), pivots.p, Group<T, W>(destination, k, size)))
+                    return false;
+                pivots.finish(x.pivots, k, size, order);
+                return true;
+            }
+            else
+                return group(source, x.pivots, destination, k, size);
+        };
         for (int32 left = x.count; left > 0; left -= W)
         {
             const int32 k = x.count - left;
             const int32 size = left < W ? left : W;
-            if (size >= leastGroup &&
-                factorGroup<T, N>(groupOf<W>(source, k, size), GroupPivots<int32, N, W>(x.pivots, k, size),
-                                  groupOf<W>(destination, k, size)))
-                continue;
+            if (size >= leastGroup && factorGroup(k, size)) continue;
             for (int32 n = k; n < k + size; ++n)
-                if (const Status status =
-                        factorOne<T, N>(groupOf<1>(source, n, 1), x.pivots.object(n, N), groupOf<1>(destination, n, 1)))
+                if (const Status status = one(source.object(n), x.pivots.object(n, order), destination.object(n)))
                     return status;
         }
         return stsOk;
@@ -264,14 +309,7 @@ Status factor(const X& x)
     const int32 n = x.widthHeight;
     const auto source = x.src.template view<Contiguous>(n);
     const auto destination = x.dst.template view<Contiguous>(n);
-    switch (n)
-    {
-    case 3: return factorUnrolled<T, 3>(x, source, destination);
-    case 4: return factorUnrolled<T, 4>(x, source, destination);
-    case 5: return factorUnrolled<T, 5>(x, source, destination);
-    case 6: return factorUnrolled<T, 6>(x, source, destination);
-    default: break;
-    }
+    if (n >= 3 && n <= largestWrittenOut) return factorWrittenOut<T>(x, source, destination);
     for (int32 k = 0; k < x.count; ++k)
         if (const Status status =
                 ownLUDecompGeneral<T>(source.object(k), x.pivots.object(k, n), destination.object(k), n))

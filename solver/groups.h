@@ -153,208 +153,120 @@ ZEPM_INLINE void storeTransposed(char* const* p, const Vec<T, W>* x)
     if constexpr (M - First > C) storeTransposed<T, W, M, First + C>(p, x);
 }
 
+// W addresses at a distance.
+template <class Char, int W>
+struct Addresses
+{
+    Char* p[W];
+
+    ZEPM_INLINE Addresses(Char* first, ptrdiff_t step)
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n) p[n] = first + n * step;
+    }
+};
+
+// The first piece of each lane as it stands: of lanes r, r + pieceLength ... in x[r].
+template <class T, int W>
+ZEPM_INLINE void loadPieces(const char* const* p, Vec<T, W> (&x)[pieceLength<T>])
+{
+    [&]<int... R>(std::integer_sequence<int, R...>) __attribute__((always_inline))
+    {
+        ((x[R] = joinPieces<T, W, pieceLength<T>, R, pieceLength<T>>(p, 0)), ...);
+    }
+    (std::make_integer_sequence<int, pieceLength<T>>{});
+}
+
+// In each piece, the elements of x at the first half of the Places in it, then those of y at the others.
+template <class T, int W, int... Place>
+struct ShuffledPlace
+{
+    constexpr int operator()(int lane) const
+    {
+        constexpr int place[] = {Place...};
+        const int length = pieceLength<T>, within = lane % length;
+        return lane - within + place[within] + (within < length / 2 ? 0 : W);
+    }
+};
+template <class T, int W, int... Place>
+ZEPM_INLINE Vec<T, W> shuffled(Vec<T, W> x, Vec<T, W> y)
+{
+    return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+    {
+        return __builtin_shufflevector(x, y, ShuffledPlace<T, W, Place...>{}(Lane)...);
+    }
+    (std::make_integer_sequence<int, W>{});
+}
+
+// W triples without gaps from p on; element e of all of them becomes x[e].
+template <class T, int W>
+ZEPM_INLINE void loadTriples(const char* p, Vec<T, W>* x)
+{
+    constexpr int pieces = W / pieceLength<T>;
+    Vec<T, W> r[3];
+    ZEPM_UNROLL
+    for (int i = 0; i < 3; ++i)
+    {
+        const char* at[pieces];
+        ZEPM_UNROLL
+        for (int g = 0; g < pieces; ++g) at[g] = p + (g * 3 + i) * 16;
+        r[i] = joinPieces<T, W, pieceLength<T>, 0, 1>(at, 0);
+    }
+    if constexpr (pieceLength<T> == 4) // x0 y0 z0 x1, y1 z1 x2 y2, z2 x3 y3 z3
+    {
+        const auto yz01 = shuffled<T, W, 1, 2, 0, 1>(r[0], r[1]), xy23 = shuffled<T, W, 2, 3, 1, 2>(r[1], r[2]);
+        x[0] = shuffled<T, W, 0, 3, 0, 2>(r[0], xy23);
+        x[1] = shuffled<T, W, 0, 2, 1, 3>(yz01, xy23);
+        x[2] = shuffled<T, W, 1, 3, 0, 3>(yz01, r[2]);
+    }
+    else // x0 y0, z0 x1, y1 z1
+    {
+        x[0] = shuffled<T, W, 0, 1>(r[0], r[1]);
+        x[1] = shuffled<T, W, 1, 0>(r[0], r[2]);
+        x[2] = shuffled<T, W, 0, 1>(r[1], r[2]);
+    }
+}
+template <class T, int W>
+ZEPM_INLINE void storeTriples(char* p, const Vec<T, W>* x)
+{
+    Vec<T, W> r[3];
+    if constexpr (pieceLength<T> == 4)
+    {
+        const auto a = shuffled<T, W, 0, 2, 0, 2>(x[0], x[1]), b = shuffled<T, W, 0, 2, 1, 3>(x[2], x[0]);
+        const auto c = shuffled<T, W, 1, 3, 1, 3>(x[1], x[2]);
+        r[0] = shuffled<T, W, 0, 2, 0, 2>(a, b);
+        r[1] = shuffled<T, W, 0, 2, 1, 3>(c, a);
+        r[2] = shuffled<T, W, 1, 3, 1, 3>(b, c);
+    }
+    else
+    {
+        r[0] = shuffled<T, W, 0, 0>(x[0], x[1]);
+        r[1] = shuffled<T, W, 0, 1>(x[2], x[0]);
+        r[2] = shuffled<T, W, 1, 1>(x[1], x[2]);
+    }
+    [&]<int... Number>(std::integer_sequence<int, Number...>) __attribute__((always_inline))
+    {
+        (storePiece<T, pieceLength<T>>(p + Number * 16, pieceOf<T, W, Number / 3>(r[Number % 3])), ...);
+    }
+    (std::make_integer_sequence<int, 3 * W / pieceLength<T>>{});
+}
+
 // ---- Objects by lane ------------------------------------------------------------------------------------------------
+
+template <int W, class V>
+ZEPM_INLINE auto laneOf(V x, int n)
+{
+    if constexpr (W == 1)
+        return x;
+    else
+        return x[n];
+}
 
 // Row numbers, one for each lane.
 template <int W>
 struct LaneRows
 {
     int32 row[W];
-};
-
-// Objects k to k + size - 1, one for each lane. Where size is less than W, the other lanes repeat the last object: they
-// compute, and store, the same once more.
-template <class Object, int W>
-struct Group;
-
-template <class T, bool Contiguous, int W>
-struct Group<StridedObject<T, Contiguous>, W>
-{
-    using Element = std::remove_const_t<T>;
-    static constexpr bool isTransposed = Contiguous && W > 1;
-    Bytes<T> p[W];
-    ptrdiff_t stride1, stride2;
-
-    template <class View>
-    ZEPM_INLINE Group(const View& view, int32 k, int32 size)
-    {
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n) p[n] = view.object(k + (n < size ? n : size - 1)).p;
-        stride1 = view.stride1;
-        stride2 = Contiguous ? static_cast<ptrdiff_t>(sizeof(T)) : view.stride2;
-    }
-
-    // Element (row, j) of each lane, row its own.
-    ZEPM_INLINE Vec<Element, W> get(const LaneRows<W>& rows, int32 j) const
-    {
-        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
-            return load<T>(p[n] + rows.row[n] * stride1 + j * stride2);
-        });
-    }
-    // Element (0, j) of each lane, j its own.
-    ZEPM_INLINE Vec<Element, W> getAcross(const LaneRows<W>& rows) const
-    {
-        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
-            return load<T>(p[n] + rows.row[n] * stride2);
-        });
-    }
-    // The N elements of a row of each lane.
-    template <int N>
-    ZEPM_INLINE void readRow(const LaneRows<W>& rows, Vec<Element, W>* x) const
-    {
-        if constexpr (isTransposed)
-        {
-            const char* at[W];
-            ZEPM_UNROLL
-            for (int n = 0; n < W; ++n) at[n] = p[n] + rows.row[n] * stride1;
-            loadTransposed<Element, W, N>(at, x);
-        }
-        else
-        {
-            ZEPM_UNROLL
-            for (int j = 0; j < N; ++j) x[j] = get(rows, j);
-        }
-    }
-    template <int N>
-    ZEPM_INLINE void writeRow(const LaneRows<W>& rows, const Vec<Element, W>* x) const
-    {
-        char* at[W];
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n) at[n] = p[n] + rows.row[n] * stride1;
-        if constexpr (isTransposed)
-            storeTransposed<Element, W, N>(at, x);
-        else
-        {
-            ZEPM_UNROLL
-            for (int j = 0; j < N; ++j) storeLanes(at, j * stride2, x[j]);
-        }
-    }
-
-private:
-    ZEPM_INLINE static void storeLanes(char* const* at, ptrdiff_t offset, Vec<Element, W> x)
-    {
-        if constexpr (W == 1)
-            store<Element>(at[0] + offset, x);
-        else
-        {
-            ZEPM_UNROLL
-            for (int n = 0; n < W; ++n) store<Element>(at[n] + offset, x[n]);
-        }
-    }
-};
-
-template <class T, int W>
-struct Group<TableObject<T>, W>
-{
-    using Element = std::remove_const_t<T>;
-    static constexpr bool isTransposed = false;
-    T* const* pp;
-    ptrdiff_t offset[W];
-    ptrdiff_t width;
-
-    template <class View>
-    ZEPM_INLINE Group(const View& view, int32 k, int32 size)
-    {
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n) offset[n] = view.object(k + (n < size ? n : size - 1)).offset;
-        pp = view.pp;
-        width = view.width;
-    }
-
-    ZEPM_INLINE Vec<Element, W> get(const LaneRows<W>& rows, int32 j) const
-    {
-        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
-            return load<T>(bytes(pp[rows.row[n] * width + j]) + offset[n]);
-        });
-    }
-    ZEPM_INLINE Vec<Element, W> getAcross(const LaneRows<W>& rows) const
-    {
-        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
-            return load<T>(bytes(pp[rows.row[n]]) + offset[n]);
-        });
-    }
-    template <int N>
-    ZEPM_INLINE void readRow(const LaneRows<W>& rows, Vec<Element, W>* x) const
-    {
-        ZEPM_UNROLL
-        for (int j = 0; j < N; ++j) x[j] = get(rows, j);
-    }
-    template <int N>
-    ZEPM_INLINE void writeRow(const LaneRows<W>& rows, const Vec<Element, W>* x) const
-    {
-        ZEPM_UNROLL
-        for (int j = 0; j < N; ++j)
-        {
-            ZEPM_UNROLL
-            for (int n = 0; n < W; ++n)
-            {
-                char* const at = bytes(pp[rows.row[n] * width + j]) + offset[n];
-                if constexpr (W == 1)
-                    store<Element>(at, x[j]);
-                else
-                    store<Element>(at, x[j][n]);
-            }
-        }
-    }
-};
-
-template <int W, class View>
-ZEPM_INLINE auto groupOf(const View& view, int32 k, int32 size)
-{
-    return Group<decltype(view.object(0)), W>(view, k, size);
-}
-
-// The pivots of the objects of a group. I is int32 or const int32.
-template <class I, int N, int W>
-struct GroupPivots
-{
-    Bytes<I> p[W];
-
-    ZEPM_INLINE GroupPivots(const PivotBlock<I>& block, int32 k, int32 size)
-    {
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n) p[n] = bytes(block.object(k + (n < size ? n : size - 1), N).p);
-    }
-    ZEPM_INLINE void read(LaneRows<W> (&rows)[N]) const
-    {
-        ZEPM_UNROLL
-        for (int n = 0; n < W; ++n)
-        {
-            ZEPM_UNROLL
-            for (int i = 0; i < N; ++i) rows[i].row[n] = PivotObject<I>{reinterpret_cast<I*>(p[n])}.get(i);
-        }
-    }
-    // By lane: lane n of row[i] is the pivot i of object n.
-    template <class Int>
-    ZEPM_INLINE void readLanes(Vec<Int, W> (&row)[N]) const
-    {
-        if constexpr (sizeof(Int) == sizeof(int32))
-            loadTransposed<int32, W, N>(p, row);
-        else
-        {
-            LaneRows<W> rows[N];
-            read(rows);
-            ZEPM_UNROLL
-            for (int i = 0; i < N; ++i)
-                row[i] = eachLane<Int, W>([&](int n) __attribute__((always_inline)) { return rows[i].row[n]; });
-        }
-    }
-    template <class Int>
-    ZEPM_INLINE void writeLanes(const Vec<Int, W> (&row)[N]) const
-    {
-        if constexpr (sizeof(Int) == sizeof(int32))
-            storeTransposed<int32, W, N>(p, row);
-        else
-        {
-            ZEPM_UNROLL
-            for (int n = 0; n < W; ++n)
-            {
-                ZEPM_UNROLL
-                for (int i = 0; i < N; ++i)
-                    PivotObject<I>{reinterpret_cast<I*>(p[n])}.set(i, static_cast<int32>(row[i][n]));
-            }
-        }
-    }
 };
 
 template <int W>
@@ -366,25 +278,260 @@ ZEPM_INLINE LaneRows<W> sameRow(int32 row)
     return rows;
 }
 
+// Where objects k to k + size - 1 are, one for each lane. Where size is less than W, the other lanes repeat the last
+// object: they compute, and store, the same once more.
+template <class T, int W, bool Contiguous, bool Fixed>
+ZEPM_INLINE void place(const StridedView<T, Contiguous, Fixed>& view, int32 k, int32 size, Bytes<T> (&p)[W])
+{
+    constexpr int A = W < lanes<ptrdiff_t> ? W : lanes<ptrdiff_t>;
+    const auto first = view.object(k).p;
+    if (W == 1 || Fixed)
+        for (int n = 0; n < W; ++n) p[n] = first;
+    else if (size == W)
+    {
+        const auto steps =
+            eachLane<ptrdiff_t, A>([&](int n) __attribute__((always_inline)) { return n * view.stride0; });
+        ZEPM_UNROLL
+        for (int n = 0; n < W; n += A)
+        {
+            const auto at = reinterpret_cast<ptrdiff_t>(first + n * view.stride0);
+            storeVec<ptrdiff_t, A>(reinterpret_cast<char*>(p + n), broadcast<ptrdiff_t, A>(at) + steps);
+        }
+    }
+    else
+    {
+        auto at = first;
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n)
+        {
+            p[n] = at;
+            at += n + 1 < size ? view.stride0 : 0;
+        }
+    }
+}
+template <class T, int W, bool Contiguous>
+ZEPM_INLINE void place(const ListView<T, Contiguous>& view, int32 k, int32 size, Bytes<T> (&p)[W])
+{
+    constexpr int A = W < lanes<ptrdiff_t> ? W : lanes<ptrdiff_t>;
+    if (size == W)
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; n += A)
+            storeVec<ptrdiff_t, A>(reinterpret_cast<char*>(p + n),
+                                   loadVec<ptrdiff_t, A>(reinterpret_cast<const char*>(view.pp + k + n)) +
+                                       broadcast<ptrdiff_t, A>(view.shift));
+    }
+    else
+        for (int n = 0; n < W; ++n) p[n] = view.object(k + (n < size ? n : size - 1)).p;
+}
+
+// The distance from one object to the next, if it is the same for all; otherwise 0.
+template <class T, bool Contiguous, bool Fixed>
+ZEPM_INLINE ptrdiff_t stepOf(const StridedView<T, Contiguous, Fixed>& view)
+{
+    return Fixed ? 0 : view.stride0;
+}
+template <class T, bool Contiguous>
+ZEPM_INLINE ptrdiff_t stepOf(const ListView<T, Contiguous>&)
+{
+    return 0;
+}
+
+// Objects of contiguous rows, one for each lane.
+template <class T, int W>
+struct Group
+{
+    using Element = std::remove_const_t<T>;
+    Bytes<T> p[W];
+    ptrdiff_t stride1;
+    ptrdiff_t step; // as stepOf, but 0 if lanes repeat an object
+
+    template <class View>
+    ZEPM_INLINE Group(const View& view, int32 k, int32 size)
+        : stride1(view.stride1), step(W > 1 && size == W ? stepOf(view) : 0)
+    {
+        place<T, W>(view, k, size, p);
+    }
+
+    // Element (0, j) of each lane, j its own.
+    ZEPM_INLINE Vec<Element, W> getAcross(const LaneRows<W>& rows) const
+    {
+        return eachLane<Element, W>([&](int n) __attribute__((always_inline)) {
+            return load<T>(p[n] + rows.row[n] * static_cast<ptrdiff_t>(sizeof(T)));
+        });
+    }
+    // The N elements of a row of each lane, row its own.
+    template <int N>
+    ZEPM_INLINE void readRow(const LaneRows<W>& rows, Vec<Element, W>* x) const
+    {
+        const char* at[W];
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n) at[n] = p[n] + rows.row[n] * stride1;
+        if constexpr (W > 1)
+            loadTransposed<Element, W, N>(at, x);
+        else
+        {
+            ZEPM_UNROLL
+            for (int j = 0; j < N; ++j) x[j] = load<T>(at[0] + j * sizeof(T));
+        }
+    }
+    template <int N>
+    ZEPM_INLINE void writeRow(const LaneRows<W>& rows, const Vec<Element, W>* x) const
+    {
+        char* at[W];
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n) at[n] = p[n] + rows.row[n] * stride1;
+        if constexpr (W > 1)
+            storeTransposed<Element, W, N>(at, x);
+        else
+        {
+            ZEPM_UNROLL
+            for (int j = 0; j < N; ++j) store<T>(at[0] + j * sizeof(T), x[j]);
+        }
+    }
+    // Vectors of N elements.
+    template <int N>
+    ZEPM_INLINE void readVectors(Vec<Element, W>* x) const
+    {
+        if constexpr (N == 3 && W >= pieceLength<Element>)
+        {
+            if (step == N * static_cast<ptrdiff_t>(sizeof(T))) return loadTriples<Element, W>(p[0], x);
+        }
+        readRow<N>(sameRow<W>(0), x);
+    }
+    template <int N>
+    ZEPM_INLINE void writeVectors(const Vec<Element, W>* x) const
+    {
+        if constexpr (N == 3 && W >= pieceLength<Element>)
+        {
+            if (step == N * static_cast<ptrdiff_t>(sizeof(T))) return storeTriples<Element, W>(p[0], x);
+        }
+        writeRow<N>(sameRow<W>(0), x);
+    }
+};
+
+// Whether groups move by pieces. All others go through copies in lanes, an element at a time, by loops over the lanes
+// that stay loops: it is the unrolled code that takes the compiler long.
+template <class View>
+inline constexpr bool isContiguous = false;
+template <class T, bool Fixed>
+inline constexpr bool isContiguous<StridedView<T, true, Fixed>> = true;
+template <class T>
+inline constexpr bool isContiguous<ListView<T, true>> = true;
+
+// One lane of a register in memory.
+template <class T, class V>
+ZEPM_INLINE T getLane(const V& x, int lane)
+{
+    return load<T>(reinterpret_cast<const char*>(&x) + lane * static_cast<ptrdiff_t>(sizeof(T)));
+}
+template <class T, class V>
+ZEPM_INLINE void setLane(V& x, int lane, T value)
+{
+    store<T>(reinterpret_cast<char*>(&x) + lane * static_cast<ptrdiff_t>(sizeof(T)), value);
+}
+
+// The largest order that is written out; the smallest is 3.
+inline constexpr int largestWrittenOut = 6;
+
+// What f gives for order n.
+template <class F>
+ZEPM_INLINE auto forOrder(int32 n, F f)
+{
+    switch (n)
+    {
+    case 3: return f.template operator()<3>();
+    case 4: return f.template operator()<4>();
+    case 5: return f.template operator()<5>();
+    default: return f.template operator()<largestWrittenOut>();
+    }
+}
+
+// The pivots of a group: the n of each lane one after the other. I is int32 or const int32. Where lanes repeat an
+// object the pivots are in a copy of their own.
+template <class I, int W>
+struct GroupPivots
+{
+    Bytes<I> p;
+
+    ZEPM_INLINE GroupPivots(const PivotBlock<I>& block, int32 k, int32 size, int32 n) : p(bytes(block.object(k, n).p))
+    {
+        if (W == 1 || size == W) return;
+        int32 e = 0;
+        for (; e < size * n; ++e) copy[e] = block.object(k, n).get(e);
+        for (; e < W * n; ++e) copy[e] = copy[e - n];
+        p = bytes(copy);
+    }
+    // What has been written, from the copy to where it belongs.
+    ZEPM_INLINE void finish(const PivotBlock<I>& block, int32 k, int32 size, int32 n) const
+    {
+        if (W == 1 || size == W) return;
+        for (int32 e = 0; e < size * n; ++e) block.object(k, n).set(e, copy[e]);
+    }
+
+private:
+    int32 copy[W * largestWrittenOut];
+};
+
+template <int N, int W>
+ZEPM_INLINE void readPivots(const char* p, LaneRows<W> (&rows)[N])
+{
+    ZEPM_UNROLL
+    for (int n = 0; n < W; ++n)
+    {
+        ZEPM_UNROLL
+        for (int i = 0; i < N; ++i) rows[i].row[n] = load<int32>(p + (n * N + i) * 4);
+    }
+}
+// By lane: lane n of row[i] is the pivot i of object n.
+template <class Int, int N, int W>
+ZEPM_INLINE void readPivotLanes(const char* p, Vec<Int, W> (&row)[N])
+{
+    static_assert(W >= pieceLength<int32>);
+    Vec<int32, W> narrow[N];
+    if constexpr (N == 3)
+        loadTriples<int32, W>(p, narrow);
+    else
+        loadTransposed<int32, W, N>(Addresses<const char, W>(p, N * 4).p, narrow);
+    ZEPM_UNROLL
+    for (int i = 0; i < N; ++i) row[i] = __builtin_convertvector(narrow[i], Vec<Int, W>);
+}
+template <class Int, int N, int W>
+ZEPM_INLINE void writePivotLanes(char* p, const Vec<Int, W> (&row)[N])
+{
+    if constexpr (W >= pieceLength<int32>)
+    {
+        Vec<int32, W> narrow[N];
+        ZEPM_UNROLL
+        for (int i = 0; i < N; ++i) narrow[i] = __builtin_convertvector(row[i], Vec<int32, W>);
+        if constexpr (N == 3)
+            storeTriples<int32, W>(p, narrow);
+        else
+            storeTransposed<int32, W, N>(Addresses<char, W>(p, N * 4).p, narrow);
+    }
+    else
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n)
+        {
+            ZEPM_UNROLL
+            for (int i = 0; i < N; ++i) store<int32>(p + (n * N + i) * 4, static_cast<int32>(laneOf<W>(row[i], n)));
+        }
+    }
+}
+
 // ---- Matrices by lane -----------------------------------------------------------------------------------------------
 
 // Rows without gaps are taken as one, where that saves pieces.
-template <int N, class AnyGroup>
-ZEPM_INLINE bool isOneRow(const AnyGroup& group)
-{
-    using T = typename AnyGroup::Element;
-    if constexpr (AnyGroup::isTransposed && N % pieceLength<T> != 0)
-        return group.stride1 == N * static_cast<ptrdiff_t>(sizeof(T));
-    else
-        return false;
-}
+template <class T, int N, int W>
+inline constexpr bool joinsRows = W > 1 && N % pieceLength<T> != 0;
 
-template <class T, int N, class Object, int W>
-ZEPM_INLINE void readMatrix(const Group<Object, W>& group, Vec<T, W> (&x)[N][N])
+template <class T, int N, int W>
+ZEPM_INLINE void readMatrix(const Group<const T, W>& group, Vec<T, W> (&x)[N][N])
 {
-    if constexpr (Group<Object, W>::isTransposed && N % pieceLength<T> != 0)
+    if constexpr (joinsRows<T, N, W>)
     {
-        if (isOneRow<N>(group))
+        if (group.stride1 == N * static_cast<ptrdiff_t>(sizeof(T)))
         {
             Vec<T, W> row[N * N];
             loadTransposed<T, W, N * N>(group.p, row);
@@ -396,12 +543,12 @@ ZEPM_INLINE void readMatrix(const Group<Object, W>& group, Vec<T, W> (&x)[N][N])
     ZEPM_UNROLL
     for (int32 i = 0; i < N; ++i) group.template readRow<N>(sameRow<W>(i), x[i]);
 }
-template <class T, int N, class Object, int W>
-ZEPM_INLINE void writeMatrix(const Group<Object, W>& group, const Vec<T, W> (&x)[N][N])
+template <class T, int N, int W>
+ZEPM_INLINE void writeMatrix(const Group<T, W>& group, const Vec<T, W> (&x)[N][N])
 {
-    if constexpr (Group<Object, W>::isTransposed && N % pieceLength<T> != 0)
+    if constexpr (joinsRows<T, N, W>)
     {
-        if (isOneRow<N>(group))
+        if (group.stride1 == N * static_cast<ptrdiff_t>(sizeof(T)))
         {
             Vec<T, W> row[N * N];
             ZEPM_UNROLL
