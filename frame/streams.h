@@ -37,12 +37,13 @@ ZEPM_INLINE bool isBeyondCaches(ptrdiff_t bytes, int sources)
 inline constexpr ptrdiff_t streamedObject = 512;
 
 // count objects of size bytes each, side by side from d on: compute(first, n, to) writes n of them to memory that stays
-// in the nearest cache.
+// in the nearest cache. Small chunks let the stores of one drain while the next is computed.
 template <class Compute>
 ZEPM_INLINE void streamObjects(char* d, ptrdiff_t size, ptrdiff_t count, Compute compute)
 {
-    alignas(64) char chunk[16 * streamedObject];
-    const ptrdiff_t most = static_cast<ptrdiff_t>(sizeof chunk) / size / 16 * 16;
+    alignas(64) char chunk[8 * streamedObject];
+    const ptrdiff_t fitting = static_cast<ptrdiff_t>(sizeof chunk) / size;
+    const ptrdiff_t most = fitting < 16 ? fitting : fitting / 16 * 16; // then whole registers, and cache lines
     for (ptrdiff_t k = 0; k < count; k += most)
     {
         const ptrdiff_t n = count - k < most ? count - k : most;
