@@ -19,17 +19,20 @@ inline constexpr bool takesTransposed = !takesConstantAlone<Op> && !std::is_same
 // ---- Rows -----------------------------------------------------------------------------------------------------------
 
 // An operand object by object; a fixed one is never a list.
-template <bool MayBeList>
+template <bool IsListCall>
 struct Objects
 {
     const char* p;
     ptrdiff_t step, shift;
     bool isList;
-    ZEPM_INLINE Objects(const RowOperand& operand, bool isListCall)
-        : p(operand.p), shift(operand.stride), isList(MayBeList && isListCall && !operand.isFixed)
+    ZEPM_INLINE explicit Objects(const RowOperand& operand)
+        : p(operand.p),
+          step(operand.isFixed ? 0
+               : IsListCall    ? static_cast<ptrdiff_t>(sizeof(char*))
+                               : operand.stride),
+          shift(operand.stride),
+          isList(IsListCall && !operand.isFixed)
     {
-        const ptrdiff_t next = isList ? static_cast<ptrdiff_t>(sizeof(char*)) : operand.stride;
-        step = operand.isFixed ? 0 : next;
     }
     ZEPM_INLINE const char* at() const { return isList ? load<const char*>(p) + shift : p; }
     ZEPM_INLINE void next() { p += step; }
@@ -46,10 +49,10 @@ ZEPM_INLINE bool ofRows(const MatrixCall& c, F f)
 ZEPM_INLINE RowOperand rowByRow(const RowOperand& operand, const char* p) { return {p, operand.rowStride, false, 0}; }
 
 // Gapped rows of few elements, object by object: in rowOf b is a pointer, or the constant.
-template <int Width, class T, class Op>
+template <int Width, bool IsList, class T, class Op>
 [[gnu::noinline]] void shortRowsOfEach(Op op, const MatrixCall& c)
 {
-    Objects<true> a(c.a, c.isList), b(c.b, c.isList), d(c.d, c.isList);
+    Objects<IsList> a(c.a), b(c.b), d(c.d);
     const ptrdiff_t count = c.count, height = c.height;
     const ptrdiff_t strideA = c.a.rowStride, strideB = c.b.rowStride, strideD = c.d.rowStride;
     T constant{};
@@ -75,10 +78,10 @@ template <int Width, class T, class Op>
 }
 
 // Gapped rows of any length: the rows of each object by themselves.
-template <class Op, class T>
+template <bool IsList, class Op, class T>
 [[gnu::noinline]] void longRowsOfEach(const MatrixCall& c)
 {
-    Objects<true> a(c.a, c.isList), b(c.b, c.isList), d(c.d, c.isList);
+    Objects<IsList> a(c.a), b(c.b), d(c.d);
     for (ptrdiff_t k = 0; k < c.count; ++k)
     {
         ZEPM_LEVEL::combineRows<Op, T>({rowByRow(c.a, a.at()), c.isConstant ? c.b : rowByRow(c.b, b.at()),
@@ -87,18 +90,18 @@ template <class Op, class T>
     }
 }
 
-template <class Op, class T>
+template <bool IsList, class Op, class T>
 ZEPM_INLINE void combineGapped(const MatrixCall& c)
 {
     switch (c.width)
     {
-    case 3: return shortRowsOfEach<3, T>(Op{}, c);
-    case 4: return shortRowsOfEach<4, T>(Op{}, c);
-    case 5: return shortRowsOfEach<5, T>(Op{}, c);
-    case 6: return shortRowsOfEach<6, T>(Op{}, c);
-    case 8: return shortRowsOfEach<8, T>(Op{}, c);
-    case 16: return shortRowsOfEach<16, T>(Op{}, c);
-    default: return longRowsOfEach<Op, T>(c);
+    case 3: return shortRowsOfEach<3, IsList, T>(Op{}, c);
+    case 4: return shortRowsOfEach<4, IsList, T>(Op{}, c);
+    case 5: return shortRowsOfEach<5, IsList, T>(Op{}, c);
+    case 6: return shortRowsOfEach<6, IsList, T>(Op{}, c);
+    case 8: return shortRowsOfEach<8, IsList, T>(Op{}, c);
+    case 16: return shortRowsOfEach<16, IsList, T>(Op{}, c);
+    default: return longRowsOfEach<IsList, Op, T>(c);
     }
 }
 
@@ -122,7 +125,7 @@ ZEPM_INLINE void combineAsRows(const MatrixCall& c)
         rows.count *= c.height;
         return ZEPM_LEVEL::combineRows<Op, T>(rows);
     }
-    combineGapped<Op, T>(c);
+    c.isList ? combineGapped<true, Op, T>(c) : combineGapped<false, Op, T>(c);
 }
 
 // ---- Tiles ----------------------------------------------------------------------------------------------------------
@@ -219,11 +222,10 @@ constexpr int tileSize()
     return best < lanes<T> ? best : lanes<T>;
 }
 
-template <int Order, Second second, ptrdiff_t RowSize, class T, class Op>
+template <int Order, Second second, bool IsList, ptrdiff_t RowSize, class T, class Op>
 [[gnu::noinline]] void tilesOfEach(Op op, const MatrixCall& c)
 {
-    constexpr bool mayBeList = RowSize == 0;
-    Objects<mayBeList> a(c.a, c.isList), b(c.b, c.isList), d(c.d, c.isList);
+    Objects<IsList> a(c.a), b(c.b), d(c.d);
     T constant{};
     if constexpr (second == Second::Constant) constant = load<T>(c.b.p);
     const ptrdiff_t count = c.count, width = c.width, height = c.height;
@@ -305,18 +307,19 @@ ZEPM_INLINE void squareOfEach(Op op, const MatrixCall& c)
         return ofRows(c, [size](const RowOperand& x) { return x.rowStride == size; });
     };
     constexpr ptrdiff_t dense = Order * sz<T>, records = 4 * sz<T>;
-    if (!c.isList && hasRowsOf(dense))
+    if (c.isList) return tilesOfEach<Order, second, true, 0, T>(op, c);
+    if (hasRowsOf(dense))
     {
         if constexpr (Whole<T, Order>::fits)
             return wholeOfEach<Order, second, T>(op, c);
         else
-            return tilesOfEach<Order, second, dense, T>(op, c);
+            return tilesOfEach<Order, second, false, dense, T>(op, c);
     }
     if constexpr (Order == 3)
     {
-        if (!c.isList && hasRowsOf(records)) return tilesOfEach<Order, second, records, T>(op, c);
+        if (hasRowsOf(records)) return tilesOfEach<Order, second, false, records, T>(op, c);
     }
-    tilesOfEach<Order, second, 0, T>(op, c);
+    tilesOfEach<Order, second, false, 0, T>(op, c);
 }
 
 template <Second second, class T, class Op>
@@ -328,7 +331,7 @@ ZEPM_INLINE void combineTransposed(Op op, const MatrixCall& c)
     case 4: return squareOfEach<4, second, T>(op, c);
     case 5: return squareOfEach<5, second, T>(op, c);
     case 6: return squareOfEach<6, second, T>(op, c);
-    default: return tilesOfEach<0, second, 0, T>(op, c);
+    default: return c.isList ? tilesOfEach<0, second, true, 0, T>(op, c) : tilesOfEach<0, second, false, 0, T>(op, c);
     }
 }
 

@@ -224,13 +224,15 @@ template <class T, int Length, class Lying, class Op>
                     : rows<T, Length>(op, a, Elements<T, Lying>{Lying(c.b)}, d, c.width, c.count);
 }
 
-// How many dense rows fill whole registers together; with constants it is as many as a register holds.
+// How many dense rows fill whole registers together, some registers at least: what surrounds a group costs as much as
+// one. With constants it is as many as a register holds.
 template <class T, int Length, bool isConstant>
 constexpr int groupSize()
 {
     if (isConstant) return lanes<T>;
+    constexpr int leastRegisters = 4;
     int size = 1;
-    while (size * Length % lanes<T> != 0) size *= 2;
+    while (size * Length % lanes<T> != 0 || size * Length < leastRegisters * lanes<T>) size *= 2;
     return size;
 }
 
