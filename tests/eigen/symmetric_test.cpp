@@ -457,21 +457,23 @@ TYPED_TEST(Symmetric, PartialResults)
     std::mt19937 random(3);
     const std::vector<std::vector<int>> failures = {{}, {0}, {57}, {401}, {30, 31, 250}};
     for (const int n : {2, 3, 4, 6, 7, 10})
+    {
+        Array<T> regular(n, count);
+        for (int k = 0; k < count; ++k)
+        {
+            Array<T> alone(n, 1); // one of a few thousand fails to converge
+            do
+                fill(alone.matrix(0), n, Kind::Random, random);
+            while (alone.solve(false) != stsOk || alone.solve(true) != stsOk);
+            std::copy_n(alone.matrix(0), n * n, regular.matrix(k));
+        }
         for (const bool withVectors : {false, true})
             for (const int threads : {1, 2, 5})
                 for (const std::vector<int>& failing : failures)
                     for (const bool isNan : {false, true})
                     {
                         if (isNan && n == 2) continue; // no iteration to fail
-                        Array<T> array(n, count);
-                        for (int k = 0; k < count; ++k)
-                        {
-                            Array<T> alone(n, 1); // one of a few thousand fails to converge
-                            do
-                                fill(alone.matrix(0), n, Kind::Random, random);
-                            while (alone.solve(false) != stsOk || alone.solve(true) != stsOk);
-                            std::copy_n(alone.matrix(0), n * n, array.matrix(k));
-                        }
+                        Array<T> array = regular;
                         for (const int k : failing)
                             std::fill_n(array.matrix(k), n * n, isNan ? std::numeric_limits<T>::quiet_NaN() : T(0));
                         for (auto* list : {&array.vectors, &array.values, &array.buffer})
@@ -495,4 +497,5 @@ TYPED_TEST(Symmetric, PartialResults)
                         }
                         if (this->HasFailure()) return;
                     }
+    }
 }
