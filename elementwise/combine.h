@@ -187,11 +187,7 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
     default: break;
     }
     auto apart = [&](const char* s) __attribute__((always_inline))
-    {
-        const auto from = reinterpret_cast<uintptr_t>(s), to = reinterpret_cast<uintptr_t>(d);
-        const uintptr_t distance = from < to ? to - from : from - to;
-        return distance == 0 || distance / sizeof(T) >= static_cast<uintptr_t>(x.width);
-    };
+    { return s == d || ssse3::areApart(s, d, x.width * static_cast<ptrdiff_t>(sizeof(T))); };
     bool isApart = x.width > 6 && apart(a);
     if constexpr (!isConstant) isApart = isApart && apart(b);
     if (isApart)
@@ -226,6 +222,10 @@ ZEPM_INLINE Status combinePacked(Op op, const X& x)
                  isTransposedA,
                  isTransposedB});
     }
+    else if constexpr (Dst::isArray && !isConstant && !decltype(x.src1)::isArray)
+        // A fixed source stands second.
+        combineRows<decltype(flipped(op)), T>(
+            {rowsOf(x.src2), rowsOf(x.src1), rowsOf(x.dst), false, isListBlock<Dst>, x.width, x.count});
     else if constexpr (Dst::isArray)
         combineRows<Op, T>(
             {rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst), isConstant, isListBlock<Dst>, x.width, x.count});

@@ -105,25 +105,25 @@ ZEPM_INLINE void combineGapped(const MatrixCall& c)
     }
 }
 
+// The call becomes one on rows: a copy of it would wait for its fields to be stored.
 template <class Op, class T>
-ZEPM_INLINE void combineAsRows(const MatrixCall& c)
+ZEPM_INLINE void combineAsRows(MatrixCall& c)
 {
-    RowCall rows = c;
     if (ofRows(c, [&](const RowOperand& x) { return x.rowStride == c.width * sz<T>; }))
     {
-        rows.width *= c.height;
-        return ZEPM_LEVEL::combineRows<Op, T>(rows);
+        c.width *= c.height;
+        return ZEPM_LEVEL::combineRows<Op, T>(c);
     }
     // The rows of all objects in one sequence.
     if (!c.isList && ofRows(c, [&](const RowOperand& x) {
             return c.count == 1 || (!x.isFixed && x.stride == c.height * x.rowStride);
         }))
     {
-        rows.a = rowByRow(c.a, c.a.p);
-        if (!c.isConstant) rows.b = rowByRow(c.b, c.b.p);
-        rows.d = rowByRow(c.d, c.d.p);
-        rows.count *= c.height;
-        return ZEPM_LEVEL::combineRows<Op, T>(rows);
+        c.a = rowByRow(c.a, c.a.p);
+        if (!c.isConstant) c.b = rowByRow(c.b, c.b.p);
+        c.d = rowByRow(c.d, c.d.p);
+        c.count *= c.height;
+        return ZEPM_LEVEL::combineRows<Op, T>(c);
     }
     c.isList ? combineGapped<true, Op, T>(c) : combineGapped<false, Op, T>(c);
 }
@@ -358,7 +358,8 @@ template <class Op, class T>
     const RowOperand constant{reinterpret_cast<const char*>(&unused), 0, true, 0};
     combineTransposed<Second::Constant, T>(First{},
                                            {{c.a, constant, to, true, false, c.width, 1}, c.height, true, false});
-    combineAsRows<Op, T>({{to, c.b, c.d, false, c.isList, c.width, c.count}, c.height, false, false});
+    MatrixCall copied{{to, c.b, c.d, false, c.isList, c.width, c.count}, c.height, false, false};
+    combineAsRows<Op, T>(copied);
 }
 
 // The first source, or both, transposed.
@@ -393,7 +394,7 @@ ZEPM_INLINE bool isStreamed(const MatrixCall& c)
 } // namespace
 
 template <class Op, class T>
-void combineMatrices(const MatrixCall& c)
+void combineMatrices(MatrixCall& c)
 {
     if (!c.isTransposedA) return combineAsRows<Op, T>(c);
     if (!isStreamed<T>(c)) return combineInTiles<Op, T>(c);
@@ -406,13 +407,13 @@ void combineMatrices(const MatrixCall& c)
     });
 }
 
-template void combineMatrices<Plus, float32>(const MatrixCall&);
-template void combineMatrices<Plus, float64>(const MatrixCall&);
-template void combineMatrices<Minus, float32>(const MatrixCall&);
-template void combineMatrices<Minus, float64>(const MatrixCall&);
-template void combineMatrices<MinusFrom, float32>(const MatrixCall&);
-template void combineMatrices<MinusFrom, float64>(const MatrixCall&);
-template void combineMatrices<Times, float32>(const MatrixCall&);
-template void combineMatrices<Times, float64>(const MatrixCall&);
+template void combineMatrices<Plus, float32>(MatrixCall&);
+template void combineMatrices<Plus, float64>(MatrixCall&);
+template void combineMatrices<Minus, float32>(MatrixCall&);
+template void combineMatrices<Minus, float64>(MatrixCall&);
+template void combineMatrices<MinusFrom, float32>(MatrixCall&);
+template void combineMatrices<MinusFrom, float64>(MatrixCall&);
+template void combineMatrices<Times, float32>(MatrixCall&);
+template void combineMatrices<Times, float64>(MatrixCall&);
 
 } // namespace zepm::ZEPM_LEVEL

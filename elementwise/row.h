@@ -10,6 +10,13 @@ namespace zepm::ZEPM_LEVEL
 template <class T>
 inline constexpr ptrdiff_t sz = sizeof(T);
 
+// Whether two operands of so many bytes have none in common.
+ZEPM_INLINE bool areApart(const char* a, const char* b, ptrdiff_t size)
+{
+    const auto from = reinterpret_cast<uintptr_t>(a), to = reinterpret_cast<uintptr_t>(b);
+    return (from < to ? to - from : from - to) >= static_cast<uintptr_t>(size);
+}
+
 // The second operand of a row at element j: the elements there, or the one constant.
 template <class T, int N>
 ZEPM_INLINE Vec<T, N> second(const char* b, ptrdiff_t j)

@@ -40,7 +40,7 @@ struct MatrixCall : RowCall
     template <class Op, class T>                                                                                       \
     void combineRows(const RowCall& call);                                                                             \
     template <class Op, class T>                                                                                       \
-    void combineMatrices(const MatrixCall& call);                                                                      \
+    void combineMatrices(MatrixCall& call);                                                                            \
     }
 ZEPM_DECLARE_LEVEL(ssse3)
 ZEPM_DECLARE_LEVEL(avx2)
@@ -54,7 +54,7 @@ ZEPM_INLINE void combineRows(const RowCall& call)
 }
 
 template <class Op, class T>
-ZEPM_INLINE void combineMatrices(const MatrixCall& call)
+ZEPM_INLINE void combineMatrices(MatrixCall call)
 {
     atLevel(ssse3::combineMatrices<Op, T>, avx2::combineMatrices<Op, T>, avx512::combineMatrices<Op, T>)(call);
 }

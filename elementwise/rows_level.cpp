@@ -10,15 +10,16 @@ namespace zepm::ZEPM_LEVEL
 namespace
 {
 
-// ---- Where the rows lie ---------------------------------------------------------------------------------------------
+// ---- Where the rows lie, from row k on ------------------------------------------------------------------------------
 
 struct Stepping
 {
     const char* p;
     ptrdiff_t stride;
-    ZEPM_INLINE explicit Stepping(const RowOperand& operand)
+    ZEPM_INLINE Stepping(const RowOperand& operand, ptrdiff_t k)
         : p(operand.p), stride(operand.isFixed ? 0 : operand.stride)
     {
+        p += k * stride;
     }
     ZEPM_INLINE const char* at() const { return p; }
     ZEPM_INLINE void next() { p += stride; }
@@ -28,7 +29,10 @@ struct Listed
 {
     const char* entry;
     ptrdiff_t shift;
-    ZEPM_INLINE explicit Listed(const RowOperand& operand) : entry(operand.p), shift(operand.stride) {}
+    ZEPM_INLINE Listed(const RowOperand& operand, ptrdiff_t k)
+        : entry(operand.p + k * static_cast<ptrdiff_t>(sizeof(char*))), shift(operand.stride)
+    {
+    }
     ZEPM_INLINE const char* at() const { return load<const char*>(entry) + shift; }
     ZEPM_INLINE void next() { entry += sizeof(char*); }
 };
@@ -197,31 +201,32 @@ ZEPM_INLINE auto fixedRow(const RowOperand& operand)
     if constexpr (Length > 0)
         return Held<T, Length>(operand.p);
     else
-        return Elements<T, Stepping>{Stepping(operand)};
+        return Elements<T, Stepping>{Stepping(operand, 0)};
 }
 
 // Lengths with code of their own for a constant for each row: those of vectors.
 template <int Length>
 inline constexpr bool takesConstants = Length <= 6;
 
+// count rows from row k on, each by itself.
 template <class T, int Length, class Lying, class Op>
-[[gnu::noinline]] void rowsOf(Op op, const RowCall& c)
+[[gnu::noinline]] void rowsOf(Op op, const RowCall& c, ptrdiff_t k, ptrdiff_t count)
 {
-    const Elements<T, Lying> a{Lying(c.a)};
-    const Lying d(c.d);
-    if (c.isConstant && c.b.isFixed) return rows<T, Length>(op, a, OneConstant<T>{load<T>(c.b.p)}, d, c.width, c.count);
+    const Elements<T, Lying> a{Lying(c.a, k)};
+    const Lying d(c.d, k);
+    if (c.isConstant && c.b.isFixed) return rows<T, Length>(op, a, OneConstant<T>{load<T>(c.b.p)}, d, c.width, count);
     if constexpr (takesConstants<Length>)
     {
         if (c.isConstant)
         {
-            const Constants<T, Lying> b{Lying(c.b)};
-            return c.a.isFixed ? rows<T, Length>(op, fixedRow<T, Length>(c.a), b, d, c.width, c.count)
-                               : rows<T, Length>(op, a, b, d, c.width, c.count);
+            const Constants<T, Lying> b{Lying(c.b, k)};
+            return c.a.isFixed ? rows<T, Length>(op, fixedRow<T, Length>(c.a), b, d, c.width, count)
+                               : rows<T, Length>(op, a, b, d, c.width, count);
         }
     }
     if constexpr (!takesConstantAlone<Op>)
-        c.b.isFixed ? rows<T, Length>(op, a, fixedRow<T, Length>(c.b), d, c.width, c.count)
-                    : rows<T, Length>(op, a, Elements<T, Lying>{Lying(c.b)}, d, c.width, c.count);
+        c.b.isFixed ? rows<T, Length>(op, a, fixedRow<T, Length>(c.b), d, c.width, count)
+                    : rows<T, Length>(op, a, Elements<T, Lying>{Lying(c.b, k)}, d, c.width, count);
 }
 
 // How many dense rows fill whole registers together, some registers at least: what surrounds a group costs as much as
@@ -236,14 +241,14 @@ constexpr int groupSize()
     return size;
 }
 
-// Dense rows of few elements in groups of whole registers: count of them, each a row of its own.
+// Dense rows of few elements in groups of whole registers: count of them from row k on, each a row of its own.
 template <class T, int Length, bool isConstant, bool Streams, class Op>
-[[gnu::noinline]] void groupsOf(Op op, const RowCall& c, ptrdiff_t count)
+[[gnu::noinline]] void groupsOf(Op op, const RowCall& c, ptrdiff_t k, ptrdiff_t count)
 {
     constexpr int size = groupSize<T, Length, isConstant>();
-    constexpr ptrdiff_t groupBytes = size * Length * sz<T>;
-    const Elements<T, Stepping> a{Stepping({c.a.p, groupBytes, false, 0})};
-    const Stepping d({c.d.p, groupBytes, false, 0});
+    constexpr ptrdiff_t rowBytes = Length * sz<T>, groupBytes = size * rowBytes;
+    const Elements<T, Stepping> a{Stepping({c.a.p + k * rowBytes, groupBytes, false, 0}, 0)};
+    const Stepping d({c.d.p + k * rowBytes, groupBytes, false, 0}, 0);
     auto along = [&](auto first, auto second) __attribute__((always_inline))
     {
         rows<T, Length * size, Streams>(op, first, second, d, 0, count);
@@ -251,9 +256,9 @@ template <class T, int Length, bool isConstant, bool Streams, class Op>
     if constexpr (!isConstant)
         along(a, Held<T, Length, size>(c.b.p));
     else if (c.a.isFixed)
-        along(Held<T, Length, size>(c.a.p), Spread<T, Length>{c.b.p});
+        along(Held<T, Length, size>(c.a.p), Spread<T, Length>{c.b.p + k * sz<T>});
     else
-        along(a, Spread<T, Length>{c.b.p});
+        along(a, Spread<T, Length>{c.b.p + k * sz<T>});
 }
 
 // ---- The call -------------------------------------------------------------------------------------------------------
@@ -272,22 +277,27 @@ ZEPM_INLINE bool isOneRow(const RowCall& c)
     return !c.isList && fits && (c.count == 1 || (isDense(c.a, size) && isDense(c.d, size)));
 }
 
-// Whether dense rows may go in groups.
+// Whether dense rows may go in groups of so many.
 template <class T>
-ZEPM_INLINE bool isGrouped(const RowCall& c)
+ZEPM_INLINE bool isGrouped(const RowCall& c, ptrdiff_t groupSize)
 {
     const ptrdiff_t size = c.width * sz<T>;
-    return !c.isList && c.count >= lanes<T> && isDense(c.d, size) && (c.a.isFixed || isDense(c.a, size)) &&
+    return !c.isList && c.count >= groupSize && isDense(c.d, size) && (c.a.isFixed || isDense(c.a, size)) &&
            (c.isConstant ? isDense(c.b, sz<T>) : c.b.isFixed || isDense(c.b, size));
 }
 
 // Whether n elements are to be stored past the caches; in place they are read anyway.
 template <class T>
-[[gnu::noinline]] bool isStreamed(const RowCall& c, ptrdiff_t n)
+[[gnu::noinline]] bool repaysStreaming(const RowCall& c, ptrdiff_t n)
 {
     const auto sources = [&](const RowOperand& operand) { return c.count == 1 || !operand.isFixed ? 1 : 0; };
     return c.a.p != c.d.p && c.b.p != c.d.p && reinterpret_cast<uintptr_t>(c.d.p) % sizeof(T) == 0 &&
            isBeyondCaches(n * sz<T>, sources(c.a) + (c.isConstant ? 0 : sources(c.b)));
+}
+template <class T>
+ZEPM_INLINE bool isStreamed(const RowCall& c, ptrdiff_t n)
+{
+    return n >= leastStreamed / sz<T> && repaysStreaming<T>(c, n);
 }
 
 template <class T, class Op>
@@ -302,17 +312,10 @@ template <class T, class Op>
     c.isConstant ? along(load<T>(c.b.p)) : along(c.b.p);
 }
 
-// The rows of a call from row k on.
-[[gnu::noinline]] RowCall restOf(const RowCall& c, ptrdiff_t k)
+// Whether no row of the source lies where the destination does, both being dense.
+ZEPM_INLINE bool isApart(const RowOperand& source, const RowCall& c)
 {
-    RowCall rest = c;
-    auto skip = [&](RowOperand & operand) __attribute__((always_inline))
-    {
-        if (!operand.isFixed) operand.p += k * operand.stride;
-    };
-    skip(rest.a), skip(rest.b), skip(rest.d);
-    rest.count -= k;
-    return rest;
+    return areApart(source.p, c.d.p, c.count * c.d.stride);
 }
 
 // Dense rows before the first that starts a register of the destination, or -1 where none does.
@@ -328,27 +331,33 @@ template <class T>
 template <int Length>
 inline constexpr int singleLength = Length > 6 && Length % 16 != 0 ? 0 : Length;
 
-// Dense rows in groups, and what is left over one by one. Rows that are stored past the caches begin with the first that
-// starts a register of the destination.
+// Dense rows, at least a group of them. What is left over is one more group, which overlaps the last, or goes row by row
+// where the sources may lie under the destination. Rows that are stored past the caches begin with the first that starts
+// a register of the destination.
 template <class T, int Length, bool isConstant, class Op>
-[[gnu::noinline]] void grouped(Op op, RowCall c)
+[[gnu::noinline]] void grouped(Op op, const RowCall& c)
 {
-    constexpr ptrdiff_t size = groupSize<T, Length, isConstant>();
+    constexpr size_t size = groupSize<T, Length, isConstant>();
     const auto one = rowsOf<T, singleLength<Length>, Stepping, Op>;
-    const ptrdiff_t first = isStreamed<T>(c, c.width * c.count) ? rowsToAlignment<T>(c) : -1;
-    if (first > 0)
+    auto rest = static_cast<size_t>(c.count); // of all rows, those not yet done
+    const ptrdiff_t head = isStreamed<T>(c, Length * c.count) ? rowsToAlignment<T>(c) : -1;
+    if (head >= 0)
     {
-        RowCall head = c;
-        head.count = first;
-        one(op, head);
-        c = restOf(c, first);
+        if (head > 0) one(op, c, 0, head);
+        rest -= static_cast<size_t>(head);
+        groupsOf<T, Length, isConstant, true>(op, c, head, static_cast<ptrdiff_t>(rest / size));
+        fenceStreams();
     }
-    const ptrdiff_t count = c.count / size;
-    if (first < 0)
-        groupsOf<T, Length, isConstant, false>(op, c, count);
     else
-        groupsOf<T, Length, isConstant, true>(op, c, count), fenceStreams();
-    if (count * size < c.count) one(op, restOf(c, count * size));
+    {
+        groupsOf<T, Length, isConstant, false>(op, c, 0, static_cast<ptrdiff_t>(rest / size));
+    }
+    rest %= size;
+    if (rest == 0) return;
+    if (isApart(c.a, c) && isApart(c.b, c))
+        groupsOf<T, Length, isConstant, false>(op, c, c.count - static_cast<ptrdiff_t>(size), 1);
+    else
+        one(op, c, c.count - static_cast<ptrdiff_t>(rest), static_cast<ptrdiff_t>(rest));
 }
 
 template <class T, int Length, class Op>
@@ -356,15 +365,19 @@ ZEPM_INLINE void rowsInOrder(Op op, const RowCall& call)
 {
     if constexpr (Length > 0)
     {
-        if (isGrouped<T>(call))
+        if constexpr (takesConstants<Length>)
         {
-            if constexpr (takesConstants<Length>)
-                if (call.isConstant) return grouped<T, Length, true>(op, call);
-            if constexpr (!takesConstantAlone<Op>) return grouped<T, Length, false>(op, call);
+            if (call.isConstant && isGrouped<T>(call, groupSize<T, Length, true>()))
+                return grouped<T, Length, true>(op, call);
+        }
+        if constexpr (!takesConstantAlone<Op>)
+        {
+            if (!call.isConstant && isGrouped<T>(call, groupSize<T, Length, false>()))
+                return grouped<T, Length, false>(op, call);
         }
     }
-    call.isList ? rowsOf<T, singleLength<Length>, Listed>(op, call)
-                : rowsOf<T, singleLength<Length>, Stepping>(op, call);
+    call.isList ? rowsOf<T, singleLength<Length>, Listed>(op, call, 0, call.count)
+                : rowsOf<T, singleLength<Length>, Stepping>(op, call, 0, call.count);
 }
 
 } // namespace

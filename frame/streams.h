@@ -14,11 +14,13 @@ namespace zepm::ZEPM_LEVEL
     return cacheSize > 0 && bytes > cacheSize / operands;
 }
 
+// The least bytes of a destination for which it is worth asking.
+inline constexpr ptrdiff_t leastStreamed = 1 << 22;
+
 // Whether a destination of so many bytes, with the sources read for each of its bytes, is beyond the largest cache.
 ZEPM_INLINE bool isBeyondCaches(ptrdiff_t bytes, int sources)
 {
-    constexpr ptrdiff_t least = 1 << 22;
-    return bytes >= least && exceedCaches(bytes, 1 + sources);
+    return bytes >= leastStreamed && exceedCaches(bytes, 1 + sources);
 }
 
 // Copies past the caches. What shares its cache line with other bytes goes through them.
