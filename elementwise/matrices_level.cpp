@@ -246,21 +246,47 @@ template <int Order, Second second, bool IsList, ptrdiff_t RowSize, class T, cla
 
 // ---- Dense matrices of few elements ---------------------------------------------------------------------------------
 
-// The registers that hold a dense matrix whole, but for a last element that transposition leaves in its place: one or
-// two of N elements, or none.
+// The registers that hold a dense matrix whole, but for a last element that transposition leaves in its place. It fits
+// where there are enough, and each register of the transpose has its lanes from two of them at most.
 template <class T, int Order>
 struct Whole
 {
     static constexpr int size = Order * Order / 2 * 2;
     static constexpr int N = size <= lanes<T> ? size : lanes<T>;
-    static constexpr bool fits = Order <= 4 && size % N == 0 && size / N <= 2 && N >= 4;
+    static constexpr int registers = size / N;
 
-    // Lane l of register R of the transpose.
+    // The element that is element n of the transpose.
+    static constexpr int from(int n) { return n % Order * Order + n / Order; }
+
+    // The registers that the lanes of register R of the transpose are from.
+    template <int R>
+    static constexpr int first = from(R * N) / N;
+    template <int R>
+    static constexpr int second = [] {
+        int found = first<R>;
+        for (int lane = 0; lane < N; ++lane)
+            if (from(R * N + lane) / N != first<R>) found = from(R * N + lane) / N;
+        return found;
+    }();
+    // Lane l of it, counted over those two.
     template <int R>
     struct Place
     {
-        constexpr int operator()(int lane) const { return (R * N + lane) % Order * Order + (R * N + lane) / Order; }
+        constexpr int operator()(int lane) const
+        {
+            const int n = from(R * N + lane);
+            return n / N == first<R> ? n % N : N + n % N;
+        }
     };
+
+    static constexpr bool fits = size % N == 0 && registers <= 12 && []<int... R>(std::integer_sequence<int, R...>) {
+        auto hasTwo = [](int r, int one, int two) {
+            for (int lane = 0; lane < N; ++lane)
+                if (const int at = from(r * N + lane) / N; at != one && at != two) return false;
+            return true;
+        };
+        return (... && hasTwo(R, first<R>, second<R>));
+    }(std::make_integer_sequence<int, size % N == 0 ? registers : 1>{});
 };
 
 // Successive objects in S, without gaps or with any distance from object to object.
@@ -268,7 +294,7 @@ template <int Order, Second second, class T, class Op>
 [[gnu::noinline]] void wholeOfEach(Op op, const MatrixCall& c)
 {
     using Matrix = Whole<T, Order>;
-    constexpr int N = Matrix::N, registers = Matrix::size / N;
+    constexpr int N = Matrix::N, registers = Matrix::registers;
     const char *a = c.a.p, *b = c.b.p;
     char* d = const_cast<char*>(c.d.p);
     const ptrdiff_t aStep = c.a.isFixed ? 0 : c.a.stride, bStep = c.b.isFixed ? 0 : c.b.stride, dStep = c.d.stride;
@@ -276,15 +302,15 @@ template <int Order, Second second, class T, class Op>
     if constexpr (second == Second::Constant) constant = load<T>(b);
     for (ptrdiff_t count = c.count; count > 0; --count)
     {
-        Vec<T, N> x[2] = {};
+        Vec<T, N> x[registers] = {};
         forEachIndex<registers>([&]<int R>() __attribute__((always_inline)) {
             x[R] = loadVec<T, N>(a + R * N * sz<T>);
             if constexpr (second == Second::Transposed) x[R] = op(x[R], loadVec<T, N>(b + R * N * sz<T>));
             if constexpr (second == Second::Constant) x[R] = op(x[R], broadcast<T, N>(constant));
         });
-        const Vec<T, N> high = registers == 2 ? x[1] : x[0];
         forEachIndex<registers>([&]<int R>() __attribute__((always_inline)) {
-            Vec<T, N> y = shuffle<T, N>(x[0], high, typename Matrix::template Place<R>{});
+            Vec<T, N> y = shuffle<T, N>(x[Matrix::template first<R>], x[Matrix::template second<R>],
+                                        typename Matrix::template Place<R>{});
             if constexpr (second == Second::Normal) y = op(y, loadVec<T, N>(b + R * N * sz<T>));
             storeVec<T, N>(d + R * N * sz<T>, y);
         });
@@ -391,13 +417,9 @@ ZEPM_INLINE bool isStreamed(const MatrixCall& c)
            isBeyondCaches(c.count * size, sources) && c.a.p != c.d.p && c.b.p != c.d.p;
 }
 
-} // namespace
-
 template <class Op, class T>
-void combineMatrices(MatrixCall& c)
+[[gnu::noinline]] void combineStreaming(const MatrixCall& c)
 {
-    if (!c.isTransposedA) return combineAsRows<Op, T>(c);
-    if (!isStreamed<T>(c)) return combineInTiles<Op, T>(c);
     MatrixCall part = c;
     streamObjects(const_cast<char*>(c.d.p), c.d.stride, c.count, [&](ptrdiff_t first, ptrdiff_t n, char* to) {
         auto skip = [&](const RowOperand& x) { return x.isFixed ? x.p : x.p + first * x.stride; };
@@ -405,6 +427,15 @@ void combineMatrices(MatrixCall& c)
         part.count = n;
         combineInTiles<Op, T>(part);
     });
+}
+
+} // namespace
+
+template <class Op, class T>
+void combineMatrices(MatrixCall& c)
+{
+    if (!c.isTransposedA) return combineAsRows<Op, T>(c);
+    isStreamed<T>(c) ? combineStreaming<Op, T>(c) : combineInTiles<Op, T>(c);
 }
 
 template void combineMatrices<Plus, float32>(MatrixCall&);
