@@ -260,7 +260,7 @@ struct Whole
 
     // The registers that the lanes of register R of the transpose are from.
     template <int R>
-    static constexpr int first = from(R * N) / N;
+    static constexpr int first = from(R* N) / N;
     template <int R>
     static constexpr int second = [] {
         int found = first<R>;
@@ -279,14 +279,16 @@ struct Whole
         }
     };
 
-    static constexpr bool fits = size % N == 0 && registers <= 12 && []<int... R>(std::integer_sequence<int, R...>) {
+    static constexpr bool fits = size % N == 0 && registers <= 12 &&[]<int... R>(std::integer_sequence<int, R...>)
+    {
         auto hasTwo = [](int r, int one, int two) {
             for (int lane = 0; lane < N; ++lane)
                 if (const int at = from(r * N + lane) / N; at != one && at != two) return false;
             return true;
         };
         return (... && hasTwo(R, first<R>, second<R>));
-    }(std::make_integer_sequence<int, size % N == 0 ? registers : 1>{});
+    }
+    (std::make_integer_sequence<int, size % N == 0 ? registers : 1>{});
 };
 
 // Successive objects in S, without gaps or with any distance from object to object.
@@ -413,7 +415,7 @@ ZEPM_INLINE bool isStreamed(const MatrixCall& c)
 {
     const ptrdiff_t rowSize = c.width * sz<T>, size = c.height * rowSize;
     const int sources = !c.a.isFixed + (!c.b.isFixed && !c.isConstant);
-    return !c.isList && c.d.rowStride == rowSize && c.d.stride == size && size <= streamedObject &&
+    return !c.isList && c.d.rowStride == rowSize && c.d.stride == size && size <= streamedMatrix &&
            isBeyondCaches(c.count * size, sources) && c.a.p != c.d.p && c.b.p != c.d.p;
 }
 
@@ -421,12 +423,14 @@ template <class Op, class T>
 [[gnu::noinline]] void combineStreaming(const MatrixCall& c)
 {
     MatrixCall part = c;
-    streamObjects(const_cast<char*>(c.d.p), c.d.stride, c.count, [&](ptrdiff_t first, ptrdiff_t n, char* to) {
-        auto skip = [&](const RowOperand& x) { return x.isFixed ? x.p : x.p + first * x.stride; };
-        part.a.p = skip(c.a), part.b.p = skip(c.b), part.d.p = to;
-        part.count = n;
-        combineInTiles<Op, T>(part);
-    });
+    auto source = [](const RowOperand& x) { return StreamSource{x.p, x.isFixed ? 0 : x.stride}; };
+    streamObjects(const_cast<char*>(c.d.p), c.d.stride, c.count, source(c.a), source(c.b),
+                  [&](ptrdiff_t first, ptrdiff_t n, char* to) {
+                      auto skip = [&](const RowOperand& x) { return x.isFixed ? x.p : x.p + first * x.stride; };
+                      part.a.p = skip(c.a), part.b.p = skip(c.b), part.d.p = to;
+                      part.count = n;
+                      combineInTiles<Op, T>(part);
+                  });
 }
 
 } // namespace

@@ -331,9 +331,9 @@ template <class T>
 template <int Length>
 inline constexpr int singleLength = Length > 6 && Length % 16 != 0 ? 0 : Length;
 
-// Dense rows, at least a group of them. What is left over is one more group, which overlaps the last, or goes row by row
-// where the sources may lie under the destination. Rows that are stored past the caches begin with the first that starts
-// a register of the destination.
+// Dense rows, at least a group of them. What is left over is one more group, which overlaps the last, or goes row by
+// row where the sources may lie under the destination. Rows that are stored past the caches begin with the first that
+// starts a register of the destination.
 template <class T, int Length, bool isConstant, class Op>
 [[gnu::noinline]] void grouped(Op op, const RowCall& c)
 {
@@ -360,6 +360,21 @@ template <class T, int Length, bool isConstant, class Op>
         one(op, c, c.count - static_cast<ptrdiff_t>(rest), static_cast<ptrdiff_t>(rest));
 }
 
+// Dense rows of any length that are stored past the caches.
+template <class T, class Op>
+[[gnu::noinline]] void streamRows(Op op, const RowCall& c)
+{
+    auto source = [](const RowOperand& x) { return StreamSource{x.p, x.isFixed ? 0 : x.stride}; };
+    RowCall part = c;
+    streamObjects(const_cast<char*>(c.d.p), c.d.stride, c.count, source(c.a), source(c.b),
+                  [&](ptrdiff_t first, ptrdiff_t n, char* to) {
+                      part.a.p = c.a.p + (c.a.isFixed ? 0 : first * c.a.stride);
+                      part.b.p = c.b.p + (c.b.isFixed ? 0 : first * c.b.stride);
+                      part.d.p = to;
+                      rowsOf<T, 0, Stepping>(op, part, 0, n);
+                  });
+}
+
 template <class T, int Length, class Op>
 ZEPM_INLINE void rowsInOrder(Op op, const RowCall& call)
 {
@@ -375,6 +390,10 @@ ZEPM_INLINE void rowsInOrder(Op op, const RowCall& call)
             if (!call.isConstant && isGrouped<T>(call, groupSize<T, Length, false>()))
                 return grouped<T, Length, false>(op, call);
         }
+    }
+    else if (const ptrdiff_t size = call.width * sz<T>; !call.isList && isDense(call.d, size) && size <= streamedChunk)
+    {
+        if (isStreamed<T>(call, call.width * call.count)) return streamRows<T>(op, call);
     }
     call.isList ? rowsOf<T, singleLength<Length>, Listed>(op, call, 0, call.count)
                 : rowsOf<T, singleLength<Length>, Stepping>(op, call, 0, call.count);

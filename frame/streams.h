@@ -11,46 +11,71 @@ namespace zepm::ZEPM_LEVEL
 {
     int32 cacheSize = 0;
     zepGetMaxCacheSizeB(&cacheSize);
-    return cacheSize > 0 && bytes > cacheSize / operands;
+    return cacheSize > 0 && bytes > cacheSize / 4 * 3 / operands;
 }
 
 // The least bytes of a destination for which it is worth asking.
 inline constexpr ptrdiff_t leastStreamed = 1 << 22;
 
-// Whether a destination of so many bytes, with the sources read for each of its bytes, is beyond the largest cache.
+// Whether a destination of so many bytes, with the sources read for each of its bytes, leaves little of the largest
+// cache or is beyond it.
 ZEPM_INLINE bool isBeyondCaches(ptrdiff_t bytes, int sources)
 {
     return bytes >= leastStreamed && exceedCaches(bytes, 1 + sources);
 }
 
-// Copies past the caches. What shares its cache line with other bytes goes through them.
-[[gnu::noinline]] inline void streamCopy(char* to, const char* from, ptrdiff_t bytes)
+// Copies past the caches, calling ahead(i) for each line, i bytes from the start. What shares its cache line with other
+// bytes goes through the caches.
+template <class Ahead>
+ZEPM_INLINE void streamCopy(char* to, const char* from, ptrdiff_t bytes, Ahead ahead)
 {
     constexpr ptrdiff_t line = 64;
     const ptrdiff_t toLine = static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(to) % line);
     const ptrdiff_t head = toLine < bytes ? toLine : bytes, lines = (bytes - head) / line * line;
     __builtin_memcpy(to, from, static_cast<size_t>(head));
-    for (ptrdiff_t i = head; i < head + lines; i += registerBytes)
-        streamVec<float32>(to + i, loadVec<float32, lanes<float32>>(from + i));
+    for (ptrdiff_t i = head; i < head + lines; i += line)
+    {
+        ahead(i);
+        ZEPM_UNROLL
+        for (ptrdiff_t j = i; j < i + line; j += registerBytes)
+            streamVec<float32>(to + j, loadVec<float32, lanes<float32>>(from + j));
+    }
     __builtin_memcpy(to + head + lines, from + head + lines, static_cast<size_t>(bytes - head - lines));
 }
 
-// The most bytes of one object for which it is worth it.
-inline constexpr ptrdiff_t streamedObject = 512;
+// The bytes that are computed at a time, and the most of one matrix for which that is worth it: larger ones take longer
+// than their memory.
+inline constexpr ptrdiff_t streamedChunk = 4096, streamedMatrix = 512;
+
+// How many chunks ahead the sources are fetched, besides the next one, which is on its way.
+inline constexpr ptrdiff_t chunksAhead = 3;
+
+// A source of streamed objects: successive ones, or a fixed one with a step of 0.
+struct StreamSource
+{
+    const char* p;
+    ptrdiff_t step;
+};
 
 // count objects of size bytes each, side by side from d on: compute(first, n, to) writes n of them to memory that stays
-// in the nearest cache. Small chunks let the stores of one drain while the next is computed.
+// in the nearest caches. While they are stored past the caches, sources of later ones are fetched.
 template <class Compute>
-ZEPM_INLINE void streamObjects(char* d, ptrdiff_t size, ptrdiff_t count, Compute compute)
+ZEPM_INLINE void streamObjects(char* d, ptrdiff_t size, ptrdiff_t count, StreamSource a, StreamSource b,
+                               Compute compute)
 {
-    alignas(64) char chunk[8 * streamedObject];
-    const ptrdiff_t fitting = static_cast<ptrdiff_t>(sizeof chunk) / size;
+    alignas(64) char chunk[streamedChunk];
+    const ptrdiff_t fitting = streamedChunk / size;
     const ptrdiff_t most = fitting < 16 ? fitting : fitting / 16 * 16; // then whole registers, and cache lines
     for (ptrdiff_t k = 0; k < count; k += most)
     {
         const ptrdiff_t n = count - k < most ? count - k : most;
         compute(k, n, chunk);
-        streamCopy(d + k * size, chunk, n * size);
+        const ptrdiff_t ahead = k + n + chunksAhead * most, next = ahead < count ? ahead : 0;
+        streamCopy(
+            d + k * size, chunk, n * size, [&](ptrdiff_t i) __attribute__((always_inline)) {
+                if (a.step) __builtin_prefetch(a.p + next * a.step + i);
+                if (b.step) __builtin_prefetch(b.p + next * b.step + i);
+            });
     }
     fenceStreams();
 }

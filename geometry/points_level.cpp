@@ -71,7 +71,7 @@ template <class Formula, class From, class To>
         }
     };
     whole(std::integral_constant<int, lanes<float32>>{});
-    if constexpr (lanes<float32> > 4) whole(std::integral_constant<int, 4>{});
+    if constexpr (lanes < float32 >> 4) whole(std::integral_constant<int, 4>{});
     return k < count ? onePerStep(formula, src, dst, k, count) && ok : ok;
 }
 
@@ -210,10 +210,11 @@ bool transformPointArray(const Formula& formula, const Source& src, const Destin
     const bool isDense = dst.elementStride == sizeof(float32) && dst.stride == size;
     if (!isDense || src.p == dst.p || !isBeyondCaches(count * size, 1)) return transformFree(formula, src, dst, count);
     bool ok = true;
-    streamObjects(bytes(dst.p), size, count, [&](ptrdiff_t first, ptrdiff_t n, char* to) {
-        const Source part{reinterpret_cast<const float32*>(src.at(first)), src.stride, src.elementStride};
-        ok &= transformFree(formula, part, {reinterpret_cast<float32*>(to), size}, n);
-    });
+    streamObjects(bytes(dst.p), size, count, {bytes(src.p), src.stride}, {nullptr, 0},
+                  [&](ptrdiff_t first, ptrdiff_t n, char* to) {
+                      const Source part{reinterpret_cast<const float32*>(src.at(first)), src.stride, src.elementStride};
+                      ok &= transformFree(formula, part, {reinterpret_cast<float32*>(to), size}, n);
+                  });
     return ok;
 }
 

@@ -228,7 +228,7 @@ ZEPM_INLINE bool isStreamed(const ProductCall& call)
 {
     const ptrdiff_t rowSize = call.cols * sz<T>, size = call.rows * rowSize;
     const int sources = !call.a.isFixed + !call.b.isFixed;
-    return !call.isList && call.d.stride1 == rowSize && call.d.step == size && size <= streamedObject &&
+    return !call.isList && call.d.stride1 == rowSize && call.d.step == size && size <= streamedMatrix &&
            isBeyondCaches(call.count * size, sources) && call.a.p != call.d.p && call.b.p != call.d.p;
 }
 
@@ -237,12 +237,14 @@ void multiplyMatrices(const ProductCall& call)
 {
     if (!isStreamed<T>(call)) return multiplyObjects<T, Transposes1, Transposes2>(call);
     ProductCall part = call;
-    streamObjects(const_cast<char*>(call.d.p), call.d.step, call.count, [&](ptrdiff_t first, ptrdiff_t n, char* to) {
-        auto skip = [&](const MatrixOperand& x) { return x.isFixed ? x.p : x.p + first * x.step; };
-        part.a.p = skip(call.a), part.b.p = skip(call.b), part.d.p = to;
-        part.count = n;
-        multiplyObjects<T, Transposes1, Transposes2>(part);
-    });
+    auto source = [](const MatrixOperand& x) { return StreamSource{x.p, x.isFixed ? 0 : x.step}; };
+    streamObjects(const_cast<char*>(call.d.p), call.d.step, call.count, source(call.a), source(call.b),
+                  [&](ptrdiff_t first, ptrdiff_t n, char* to) {
+                      auto skip = [&](const MatrixOperand& x) { return x.isFixed ? x.p : x.p + first * x.step; };
+                      part.a.p = skip(call.a), part.b.p = skip(call.b), part.d.p = to;
+                      part.count = n;
+                      multiplyObjects<T, Transposes1, Transposes2>(part);
+                  });
 }
 
 } // namespace zepm::ZEPM_LEVEL

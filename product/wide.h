@@ -15,6 +15,7 @@
 
 #include "frame/lanes.h"
 #include "product/products.h"
+#include "product/rows3.h"
 
 namespace zepm::ZEPM_LEVEL
 {
@@ -525,6 +526,12 @@ template <class T, int Order, bool Transposes1, bool Transposes2>
 ZEPM_INLINE void multiplyOrder(const ProductCall& call)
 {
     const bool solid = isSolid<T>(call, Order);
+    if constexpr (Order == 3 && sizeof(T) == 4 && !Transposes1)
+    {
+        constexpr ptrdiff_t size = 9 * sz<T>;
+        if (solid && call.b.isFixed && call.a.step == size && call.d.step == size)
+            return multiplyRowsOf3<Transposes2>(call);
+    }
     auto ofFixed = [&]<Fixed fixed>() __attribute__((always_inline))
     {
         solid ? multiplyOrder<T, Order, Transposes1, Transposes2, true, fixed>(call)
