@@ -34,8 +34,8 @@ inline bool isFar(Strides strides)
 // Where an operand's first or last byte lies.
 struct Placement
 {
-    bool atEnd =
-        true; // its last byte ends at the unreadable page behind; else it starts offset bytes behind the one in front
+    // The last byte ends at the unreadable page behind; else the first is offset bytes behind the one in front.
+    bool atEnd = true;
     size_t offset = 0;
 };
 
