@@ -23,8 +23,8 @@ enum class Layout
     P
 };
 
-// How an operand lies in memory: in the layout of the function, or, whatever the layout, without gaps behind a pointer of
-// its own: elements, row numbers (int32), or room whose contents after the call do not matter.
+// How an operand lies in memory: in the layout of the function, or, whatever the layout, without gaps behind a pointer
+// of its own: elements, row numbers (int32), or room whose contents after the call do not matter.
 enum class Storage
 {
     Laid,

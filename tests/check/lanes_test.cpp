@@ -221,6 +221,10 @@ TEST_P(LongLane, BeyondTheCaches)
     if (cacheSize > 1 << 28) return; // too much memory for a test
     // So many of the result suffice, whatever the sources.
     const int32 elements = cacheSize / (function.isFloat32 ? 4 : 8) / 4 * 3 + 100000;
+    ASSERT_TRUE(function.operands.back().isDst);
+    // With this the destination lies one element behind its page.
+    const size_t element = function.isFloat32 ? 4 : 8, operands = function.operands.size();
+    const size_t offset = (element + 80 - Trial::offsetStep * (operands - 1)) % 16;
     // Vectors of a length with code of its own and of another, which all go their own ways past the caches.
     const std::vector<std::vector<int>> sizesToTry = function.operands[0].letter == 'v'
                                                          ? std::vector<std::vector<int>>{{3}, {7}}
@@ -231,7 +235,7 @@ TEST_P(LongLane, BeyondTheCaches)
             const AtLevel atLevel(level);
             // One object is left over behind whole registers, and some stand before the first of them.
             const int32 count = elements / (sizes.size() == 1 ? sizes[0] : 9) / 16 * 16 + 1;
-            for (const Placement placement : {Placement{true, 0}, Placement{false, function.isFloat32 ? 4u : 8u}})
+            for (const Placement placement : {Placement{true, 0}, Placement{false, offset}})
                 if (!passes({sizes, count, Strides::Dense, placement})) return;
         }
 }

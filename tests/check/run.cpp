@@ -153,7 +153,7 @@ void Trial::prepare(const Case& chosen)
     {
         const auto [rows, cols] = function.shape(function.operands[n], chosen.sizes);
         Placement placement = chosen.placement;
-        if (!placement.atEnd && placement.offset > 0) placement.offset = (placement.offset + 5 * n) % 16;
+        if (!placement.atEnd && placement.offset > 0) placement.offset = (placement.offset + offsetStep * n) % 16;
         if (chosen.inPlace >= 0 && function.operands[n].name == "dst")
             images[n].placeAt(images[static_cast<size_t>(chosen.inPlace)]);
         else

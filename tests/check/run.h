@@ -27,6 +27,9 @@ struct Case
 class Trial
 {
 public:
+    // From operand to operand, so that no two are placed alike.
+    static constexpr size_t offsetStep = 5;
+
     explicit Trial(const Function& function);
 
     // Places and fills the operands.

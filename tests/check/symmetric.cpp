@@ -104,11 +104,11 @@ void chooseMatrix(Tensor<T>& src, int k, std::mt19937& random, bool mayFail)
         for (int j = 0; j <= i; ++j)
         {
             T x = uniform();
-            if (kind == 0 && i - j > 1) x = 0;                              // tridiagonal
-            if (kind == 1 && i != j) x = 0;                                 // diagonal
-            if (kind == 2) x = T(1 + random() % 3) * (i == j ? 2 : 1);      // ties, also of the two ends
-            if (kind == 3) x = (i == j ? 1 : 0) + x * T(0x1p-22);           // clustered, columns below the tolerance
-            if (kind == 4) x = std::ldexp(x, 3 * (n - i) - 2 * n);          // graded
+            if (kind == 0 && i - j > 1) x = 0;                         // tridiagonal
+            if (kind == 1 && i != j) x = 0;                            // diagonal
+            if (kind == 2) x = T(1 + random() % 3) * (i == j ? 2 : 1); // ties, also of the two ends
+            if (kind == 3) x = (i == j ? 1 : 0) + x * T(0x1p-22);      // clustered, columns below the tolerance
+            if (kind == 4) x = std::ldexp(x, 3 * (n - i) - 2 * n);     // graded
             if (kind == 5 && i != j && random() % 2) x = 0;
             src.at(k, i, j) = src.at(k, j, i) = i == j && kind != 2 ? x + std::copysign(T(0.5), x) : x;
         }
@@ -136,8 +136,7 @@ template <class T>
 void reference(const Function& f, Problem<T>& problem)
 {
     const Kernel kernel = kernelOf(f, problem.isPacked);
-    for (int k = 0; k < problem.count && problem.status == stsOk; ++k)
-        problem.status = solveObject(kernel, problem, k);
+    for (int k = 0; k < problem.count && problem.status == stsOk; ++k) problem.status = solveObject(kernel, problem, k);
 }
 
 Function completed(Function f)
@@ -185,14 +184,14 @@ Function completed(Function f)
 std::vector<Function> symmetricFunctions()
 {
     return {
-        ROW(zepmEigenValuesSym_m_32f),          ROW(zepmEigenValuesSym_m_32f_P),
-        ROW(zepmEigenValuesSym_m_64f),          ROW(zepmEigenValuesSym_m_64f_P),
-        ROW(zepmEigenValuesSym_ma_32f),         ROW(zepmEigenValuesSym_ma_32f_L),
-        ROW(zepmEigenValuesSym_ma_32f_P),       ROW(zepmEigenValuesSym_ma_64f),
-        ROW(zepmEigenValuesSym_ma_64f_L),       ROW(zepmEigenValuesSym_ma_64f_P),
-        ROW(zepmEigenValuesVectorsSym_m_32f),   ROW(zepmEigenValuesVectorsSym_m_32f_P),
-        ROW(zepmEigenValuesVectorsSym_m_64f),   ROW(zepmEigenValuesVectorsSym_m_64f_P),
-        ROW(zepmEigenValuesVectorsSym_ma_32f),  ROW(zepmEigenValuesVectorsSym_ma_32f_L),
+        ROW(zepmEigenValuesSym_m_32f),           ROW(zepmEigenValuesSym_m_32f_P),
+        ROW(zepmEigenValuesSym_m_64f),           ROW(zepmEigenValuesSym_m_64f_P),
+        ROW(zepmEigenValuesSym_ma_32f),          ROW(zepmEigenValuesSym_ma_32f_L),
+        ROW(zepmEigenValuesSym_ma_32f_P),        ROW(zepmEigenValuesSym_ma_64f),
+        ROW(zepmEigenValuesSym_ma_64f_L),        ROW(zepmEigenValuesSym_ma_64f_P),
+        ROW(zepmEigenValuesVectorsSym_m_32f),    ROW(zepmEigenValuesVectorsSym_m_32f_P),
+        ROW(zepmEigenValuesVectorsSym_m_64f),    ROW(zepmEigenValuesVectorsSym_m_64f_P),
+        ROW(zepmEigenValuesVectorsSym_ma_32f),   ROW(zepmEigenValuesVectorsSym_ma_32f_L),
         ROW(zepmEigenValuesVectorsSym_ma_32f_P), ROW(zepmEigenValuesVectorsSym_ma_64f),
         ROW(zepmEigenValuesVectorsSym_ma_64f_L), ROW(zepmEigenValuesVectorsSym_ma_64f_P),
     };

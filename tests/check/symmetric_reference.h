@@ -14,9 +14,9 @@ namespace check
 struct Kernel
 {
     bool withVectors;
-    bool wideScalars;                          // float64 scalars over float32 elements
-    bool wideRootTopDown, wideRootBottomUp;    // the root in the shift in float64
-    bool sortsSingular;                        // a singular object is sorted before it is reported
+    bool wideScalars;                       // float64 scalars over float32 elements
+    bool wideRootTopDown, wideRootBottomUp; // the root in the shift in float64
+    bool sortsSingular;                     // a singular object is sorted before it is reported
     double order2Threshold;
 };
 
