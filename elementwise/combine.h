@@ -187,7 +187,9 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
     default: break;
     }
     auto apart = [&](const char* s) __attribute__((always_inline))
-    { return s == d || ssse3::areApart(s, d, x.width * static_cast<ptrdiff_t>(sizeof(T))); };
+    {
+        return s == d || ssse3::areApart(s, d, x.width * static_cast<ptrdiff_t>(sizeof(T)));
+    };
     bool isApart = x.width > 6 && apart(a);
     if constexpr (!isConstant) isApart = isApart && apart(b);
     if (isApart)

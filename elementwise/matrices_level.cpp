@@ -299,7 +299,7 @@ template <int Order, Second second, class T, class Op>
     constexpr int N = Matrix::N, registers = Matrix::registers;
     const char *a = c.a.p, *b = c.b.p;
     char* d = const_cast<char*>(c.d.p);
-    const ptrdiff_t aStep = c.a.isFixed ? 0 : c.a.stride, bStep = c.b.isFixed ? 0 : c.b.stride, dStep = c.d.stride;
+    const ptrdiff_t aStep = c.a.toNext(), bStep = c.b.toNext(), dStep = c.d.stride;
     T constant{};
     if constexpr (second == Second::Constant) constant = load<T>(b);
     for (ptrdiff_t count = c.count; count > 0; --count)
@@ -422,15 +422,7 @@ ZEPM_INLINE bool isStreamed(const MatrixCall& c)
 template <class Op, class T>
 [[gnu::noinline]] void combineStreaming(const MatrixCall& c)
 {
-    MatrixCall part = c;
-    auto source = [](const RowOperand& x) { return StreamSource{x.p, x.isFixed ? 0 : x.stride}; };
-    streamObjects(const_cast<char*>(c.d.p), c.d.stride, c.count, source(c.a), source(c.b),
-                  [&](ptrdiff_t first, ptrdiff_t n, char* to) {
-                      auto skip = [&](const RowOperand& x) { return x.isFixed ? x.p : x.p + first * x.stride; };
-                      part.a.p = skip(c.a), part.b.p = skip(c.b), part.d.p = to;
-                      part.count = n;
-                      combineInTiles<Op, T>(part);
-                  });
+    streamCall(c, c.d.stride, [](const MatrixCall& part) { combineInTiles<Op, T>(part); });
 }
 
 } // namespace

@@ -16,6 +16,8 @@ struct RowOperand
     ptrdiff_t stride;
     bool isFixed;
     ptrdiff_t rowStride; // from row to row of one object
+
+    ZEPM_INLINE ptrdiff_t toNext() const { return isFixed ? 0 : stride; }
 };
 
 // d = op(a, b) on count objects of one row of width elements.

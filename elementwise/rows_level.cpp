@@ -16,8 +16,7 @@ struct Stepping
 {
     const char* p;
     ptrdiff_t stride;
-    ZEPM_INLINE Stepping(const RowOperand& operand, ptrdiff_t k)
-        : p(operand.p), stride(operand.isFixed ? 0 : operand.stride)
+    ZEPM_INLINE Stepping(const RowOperand& operand, ptrdiff_t k) : p(operand.p), stride(operand.toNext())
     {
         p += k * stride;
     }
@@ -364,15 +363,7 @@ template <class T, int Length, bool isConstant, class Op>
 template <class T, class Op>
 [[gnu::noinline]] void streamRows(Op op, const RowCall& c)
 {
-    auto source = [](const RowOperand& x) { return StreamSource{x.p, x.isFixed ? 0 : x.stride}; };
-    RowCall part = c;
-    streamObjects(const_cast<char*>(c.d.p), c.d.stride, c.count, source(c.a), source(c.b),
-                  [&](ptrdiff_t first, ptrdiff_t n, char* to) {
-                      part.a.p = c.a.p + (c.a.isFixed ? 0 : first * c.a.stride);
-                      part.b.p = c.b.p + (c.b.isFixed ? 0 : first * c.b.stride);
-                      part.d.p = to;
-                      rowsOf<T, 0, Stepping>(op, part, 0, n);
-                  });
+    streamCall(c, c.d.stride, [op](const RowCall& part) { rowsOf<T, 0, Stepping>(op, part, 0, part.count); });
 }
 
 template <class T, int Length, class Op>

@@ -80,4 +80,18 @@ ZEPM_INLINE void streamObjects(char* d, ptrdiff_t size, ptrdiff_t count, StreamS
     fenceStreams();
 }
 
+// The same of a call on operands a, b and d, in parts of it.
+template <class Call, class Compute>
+ZEPM_INLINE void streamCall(const Call& call, ptrdiff_t size, Compute compute)
+{
+    Call part = call;
+    const ptrdiff_t stepA = call.a.toNext(), stepB = call.b.toNext();
+    streamObjects(const_cast<char*>(call.d.p), size, call.count, {call.a.p, stepA}, {call.b.p, stepB},
+                  [&](ptrdiff_t first, ptrdiff_t n, char* to) {
+                      part.a.p = call.a.p + first * stepA, part.b.p = call.b.p + first * stepB, part.d.p = to;
+                      part.count = n;
+                      compute(part);
+                  });
+}
+
 } // namespace zepm::ZEPM_LEVEL

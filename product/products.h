@@ -14,6 +14,8 @@ struct MatrixOperand
     const char* p;
     ptrdiff_t step, stride1;
     bool isFixed;
+
+    ZEPM_INLINE ptrdiff_t toNext() const { return isFixed ? 0 : step; }
 };
 
 // d = a * b on count objects: rows of cols sums over inner products.

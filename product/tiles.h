@@ -236,15 +236,7 @@ template <class T, bool Transposes1, bool Transposes2>
 void multiplyMatrices(const ProductCall& call)
 {
     if (!isStreamed<T>(call)) return multiplyObjects<T, Transposes1, Transposes2>(call);
-    ProductCall part = call;
-    auto source = [](const MatrixOperand& x) { return StreamSource{x.p, x.isFixed ? 0 : x.step}; };
-    streamObjects(const_cast<char*>(call.d.p), call.d.step, call.count, source(call.a), source(call.b),
-                  [&](ptrdiff_t first, ptrdiff_t n, char* to) {
-                      auto skip = [&](const MatrixOperand& x) { return x.isFixed ? x.p : x.p + first * x.step; };
-                      part.a.p = skip(call.a), part.b.p = skip(call.b), part.d.p = to;
-                      part.count = n;
-                      multiplyObjects<T, Transposes1, Transposes2>(part);
-                  });
+    streamCall(call, call.d.step, [](const ProductCall& part) { multiplyObjects<T, Transposes1, Transposes2>(part); });
 }
 
 } // namespace zepm::ZEPM_LEVEL
