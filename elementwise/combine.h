@@ -95,27 +95,27 @@ ZEPM_INLINE void combineViews(Op op, const A& a, const B& b, const D& d, int32 w
 template <class T, bool IsArray, int Rank>
 ZEPM_INLINE RowOperand rowsOf(const StridedBlock<T, IsArray, Rank>& block)
 {
-    return {bytes(block.p), block.stride0, !IsArray, block.stride1};
+    return {bytes(block.p), IsArray ? block.stride0 : RowOperand::fixed, block.stride1};
 }
 template <class T, int Rank>
 ZEPM_INLINE RowOperand rowsOf(const ListBlock<T, Rank>& block)
 {
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift, false, block.stride1};
+    return {reinterpret_cast<const char*>(block.pp), block.roiShift, block.stride1};
 }
 template <class T>
 ZEPM_INLINE RowOperand rowsOf(const ConstantBlock<T>& block)
 {
-    return {bytes(&block.val), 0, true, 0};
+    return {bytes(&block.val), RowOperand::fixed, 0};
 }
 template <class T>
 ZEPM_INLINE RowOperand rowsOf(const ConstantArrayBlock<T>& block)
 {
-    return {bytes(block.p), block.stride0, false, 0};
+    return {bytes(block.p), block.stride0, 0};
 }
 template <class T>
 ZEPM_INLINE RowOperand rowsOf(const ConstantListBlock<T>& block)
 {
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift, false, 0};
+    return {reinterpret_cast<const char*>(block.pp), block.roiShift, 0};
 }
 
 // ---- Elements side by side ------------------------------------------------------------------------------------------
@@ -136,7 +136,7 @@ ZEPM_INLINE RowOperand rowAcross(const Block& block, const X& x, int32 i, int32 
     if constexpr (isConstantBlock<Block>)
         return rowsOf(block);
     else
-        return {viewOf<false>(block, x).object(0).at(i, j), 0, true, 0};
+        return {viewOf<false>(block, x).object(0).at(i, j), RowOperand::fixed, 0};
 }
 
 template <class Op, class X>

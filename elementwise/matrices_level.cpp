@@ -27,11 +27,11 @@ struct Objects
     bool isList;
     ZEPM_INLINE explicit Objects(const RowOperand& operand)
         : p(operand.p),
-          step(operand.isFixed ? 0
-               : IsListCall    ? static_cast<ptrdiff_t>(sizeof(char*))
-                               : operand.stride),
+          step(operand.isFixed() ? 0
+               : IsListCall      ? static_cast<ptrdiff_t>(sizeof(char*))
+                                 : operand.stride),
           shift(operand.stride),
-          isList(IsListCall && !operand.isFixed)
+          isList(IsListCall && !operand.isFixed())
     {
     }
     ZEPM_INLINE const char* at() const { return isList ? load<const char*>(p) + shift : p; }
@@ -46,7 +46,7 @@ ZEPM_INLINE bool ofRows(const MatrixCall& c, F f)
 }
 
 // The rows of one object as if each were an object.
-ZEPM_INLINE RowOperand rowByRow(const RowOperand& operand, const char* p) { return {p, operand.rowStride, false, 0}; }
+ZEPM_INLINE RowOperand rowByRow(const RowOperand& operand, const char* p) { return {p, operand.rowStride, 0}; }
 
 // Gapped rows of few elements, object by object: in rowOf b is a pointer, or the constant.
 template <int Width, bool IsList, class T, class Op>
@@ -116,7 +116,7 @@ ZEPM_INLINE void combineAsRows(MatrixCall& c)
     }
     // The rows of all objects in one sequence.
     if (!c.isList && ofRows(c, [&](const RowOperand& x) {
-            return c.count == 1 || (!x.isFixed && x.stride == c.height * x.rowStride);
+            return c.count == 1 || (!x.isFixed() && x.stride == c.height * x.rowStride);
         }))
     {
         c.a = rowByRow(c.a, c.a.p);
@@ -382,8 +382,8 @@ template <class Op, class T>
     alignas(64) char copy[copiedBytes];
     const ptrdiff_t rowSize = c.width * sz<T>;
     const T unused{};
-    const RowOperand to{copy, 0, true, rowSize};
-    const RowOperand constant{reinterpret_cast<const char*>(&unused), 0, true, 0};
+    const RowOperand to{copy, RowOperand::fixed, rowSize};
+    const RowOperand constant{reinterpret_cast<const char*>(&unused), RowOperand::fixed, 0};
     combineTransposed<Second::Constant, T>(First{},
                                            {{c.a, constant, to, true, false, c.width, 1}, c.height, true, false});
     MatrixCall copied{{to, c.b, c.d, false, c.isList, c.width, c.count}, c.height, false, false};
@@ -404,7 +404,7 @@ template <class Op, class T>
         {
             if (c.isTransposedB) return combineTransposed<Second::Transposed, T>(Op{}, c);
         }
-        if (c.a.isFixed && c.count > 1 && c.width * c.height <= copiedBytes / sz<T>) return combineWithCopy<Op, T>(c);
+        if (c.a.isFixed() && c.count > 1 && c.width * c.height <= copiedBytes / sz<T>) return combineWithCopy<Op, T>(c);
         combineTransposed<Second::Normal, T>(Op{}, c);
     }
 }
@@ -414,7 +414,7 @@ template <class T>
 ZEPM_INLINE bool isStreamed(const MatrixCall& c)
 {
     const ptrdiff_t rowSize = c.width * sz<T>, size = c.height * rowSize;
-    const int sources = !c.a.isFixed + (!c.b.isFixed && !c.isConstant);
+    const int sources = !c.a.isFixed() + (!c.b.isFixed() && !c.isConstant);
     return !c.isList && c.d.rowStride == rowSize && c.d.stride == size && size <= streamedMatrix &&
            isBeyondCaches(c.count * size, sources) && c.a.p != c.d.p && c.b.p != c.d.p;
 }

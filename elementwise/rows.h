@@ -9,15 +9,16 @@ namespace zepm
 {
 
 // Where the rows of one operand lie, those of object k from p + k * stride on or, in a list, from entry k of the table
-// p plus stride. A fixed operand, the same for every object, is never a list.
+// p plus stride. An operand that is the same for every object has the stride fixed, and is never a list.
 struct RowOperand
 {
+    static constexpr ptrdiff_t fixed = -1;
     const char* p;
     ptrdiff_t stride;
-    bool isFixed;
     ptrdiff_t rowStride; // from row to row of one object
 
-    ZEPM_INLINE ptrdiff_t toNext() const { return isFixed ? 0 : stride; }
+    ZEPM_INLINE bool isFixed() const { return stride < 0; }
+    ZEPM_INLINE ptrdiff_t toNext() const { return isFixed() ? 0 : stride; }
 };
 
 // d = op(a, b) on count objects of one row of width elements.

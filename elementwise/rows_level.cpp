@@ -24,6 +24,19 @@ struct Stepping
     ZEPM_INLINE void next() { p += stride; }
 };
 
+// The second row is as far from the first as one likes.
+struct SteppingFrom
+{
+    const char* p;
+    ptrdiff_t first, stride;
+    ZEPM_INLINE const char* at() const { return p; }
+    ZEPM_INLINE void next()
+    {
+        p += first;
+        first = stride;
+    }
+};
+
 struct Listed
 {
     const char* entry;
@@ -147,15 +160,15 @@ struct Held
 template <class T, int Length>
 struct Spread
 {
-    const char* p;
+    SteppingFrom rows;
     Vec<T, lanes<T>> constants{};
     template <int J>
     struct Place
     {
         constexpr int operator()(int lane) const { return (J + lane) / Length; }
     };
-    ZEPM_INLINE void enter() { constants = loadVec<T, lanes<T>>(p); }
-    ZEPM_INLINE void next() { p += registerBytes; }
+    ZEPM_INLINE void enter() { constants = loadVec<T, lanes<T>>(rows.at()); }
+    ZEPM_INLINE void next() { rows.next(); }
     template <int N, int J>
     ZEPM_INLINE Vec<T, N> get() const
     {
@@ -213,19 +226,19 @@ template <class T, int Length, class Lying, class Op>
 {
     const Elements<T, Lying> a{Lying(c.a, k)};
     const Lying d(c.d, k);
-    if (c.isConstant && c.b.isFixed) return rows<T, Length>(op, a, OneConstant<T>{load<T>(c.b.p)}, d, c.width, count);
+    if (c.isConstant && c.b.isFixed()) return rows<T, Length>(op, a, OneConstant<T>{load<T>(c.b.p)}, d, c.width, count);
     if constexpr (takesConstants<Length>)
     {
         if (c.isConstant)
         {
             const Constants<T, Lying> b{Lying(c.b, k)};
-            return c.a.isFixed ? rows<T, Length>(op, fixedRow<T, Length>(c.a), b, d, c.width, count)
-                               : rows<T, Length>(op, a, b, d, c.width, count);
+            return c.a.isFixed() ? rows<T, Length>(op, fixedRow<T, Length>(c.a), b, d, c.width, count)
+                                 : rows<T, Length>(op, a, b, d, c.width, count);
         }
     }
     if constexpr (!takesConstantAlone<Op>)
-        c.b.isFixed ? rows<T, Length>(op, a, fixedRow<T, Length>(c.b), d, c.width, count)
-                    : rows<T, Length>(op, a, Elements<T, Lying>{Lying(c.b, k)}, d, c.width, count);
+        c.b.isFixed() ? rows<T, Length>(op, a, fixedRow<T, Length>(c.b), d, c.width, count)
+                      : rows<T, Length>(op, a, Elements<T, Lying>{Lying(c.b, k)}, d, c.width, count);
 }
 
 // How many dense rows fill whole registers together, some registers at least: what surrounds a group costs as much as
@@ -240,39 +253,39 @@ constexpr int groupSize()
     return size;
 }
 
-// Dense rows of few elements in groups of whole registers: count of them from row k on, each a row of its own.
+// Dense rows of few elements in groups of whole registers: count of them from row k on, each a row of its own. The
+// second group begins toSecond rows behind the first, those behind it where the one before ends.
 template <class T, int Length, bool isConstant, bool Streams, class Op>
-[[gnu::noinline]] void groupsOf(Op op, const RowCall& c, ptrdiff_t k, ptrdiff_t count)
+[[gnu::noinline]] void groupsOf(Op op, const RowCall& c, ptrdiff_t k, ptrdiff_t toSecond, ptrdiff_t count)
 {
     constexpr int size = groupSize<T, Length, isConstant>();
-    constexpr ptrdiff_t rowBytes = Length * sz<T>, groupBytes = size * rowBytes;
-    const Elements<T, Stepping> a{Stepping({c.a.p + k * rowBytes, groupBytes, false, 0}, 0)};
-    const Stepping d({c.d.p + k * rowBytes, groupBytes, false, 0}, 0);
+    auto lying = [&](const RowOperand& operand, ptrdiff_t rowBytes) __attribute__((always_inline))
+    {
+        return SteppingFrom{operand.p + k * rowBytes, toSecond * rowBytes, size * rowBytes};
+    };
+    const Elements<T, SteppingFrom> a{lying(c.a, Length * sz<T>)};
     auto along = [&](auto first, auto second) __attribute__((always_inline))
     {
-        rows<T, Length * size, Streams>(op, first, second, d, 0, count);
+        rows<T, Length * size, Streams>(op, first, second, lying(c.d, Length * sz<T>), 0, count);
     };
     if constexpr (!isConstant)
         along(a, Held<T, Length, size>(c.b.p));
-    else if (c.a.isFixed)
-        along(Held<T, Length, size>(c.a.p), Spread<T, Length>{c.b.p + k * sz<T>});
+    else if (c.a.isFixed())
+        along(Held<T, Length, size>(c.a.p), Spread<T, Length>{lying(c.b, sz<T>)});
     else
-        along(a, Spread<T, Length>{c.b.p + k * sz<T>});
+        along(a, Spread<T, Length>{lying(c.b, sz<T>)});
 }
 
 // ---- The call -------------------------------------------------------------------------------------------------------
 
-ZEPM_INLINE bool isDense(const RowOperand& operand, ptrdiff_t size)
-{
-    return !operand.isFixed && operand.stride == size;
-}
+ZEPM_INLINE bool isDense(const RowOperand& operand, ptrdiff_t size) { return operand.stride == size; }
 
 // Dense operands without a fixed one but a constant are one long row.
 template <class T>
 ZEPM_INLINE bool isOneRow(const RowCall& c)
 {
     const ptrdiff_t size = c.width * sz<T>;
-    const bool fits = c.isConstant ? c.b.isFixed : c.count == 1 || isDense(c.b, size);
+    const bool fits = c.isConstant ? c.b.isFixed() : c.count == 1 || isDense(c.b, size);
     return !c.isList && fits && (c.count == 1 || (isDense(c.a, size) && isDense(c.d, size)));
 }
 
@@ -281,15 +294,15 @@ template <class T>
 ZEPM_INLINE bool isGrouped(const RowCall& c, ptrdiff_t groupSize)
 {
     const ptrdiff_t size = c.width * sz<T>;
-    return !c.isList && c.count >= groupSize && isDense(c.d, size) && (c.a.isFixed || isDense(c.a, size)) &&
-           (c.isConstant ? isDense(c.b, sz<T>) : c.b.isFixed || isDense(c.b, size));
+    return !c.isList && c.count >= groupSize && isDense(c.d, size) && (c.a.isFixed() || isDense(c.a, size)) &&
+           (c.isConstant ? isDense(c.b, sz<T>) : c.b.isFixed() || isDense(c.b, size));
 }
 
 // Whether n elements are to be stored past the caches; in place they are read anyway.
 template <class T>
 [[gnu::noinline]] bool repaysStreaming(const RowCall& c, ptrdiff_t n)
 {
-    const auto sources = [&](const RowOperand& operand) { return c.count == 1 || !operand.isFixed ? 1 : 0; };
+    const auto sources = [&](const RowOperand& operand) { return c.count == 1 || !operand.isFixed() ? 1 : 0; };
     return c.a.p != c.d.p && c.b.p != c.d.p && reinterpret_cast<uintptr_t>(c.d.p) % sizeof(T) == 0 &&
            isBeyondCaches(n * sz<T>, sources(c.a) + (c.isConstant ? 0 : sources(c.b)));
 }
@@ -330,33 +343,33 @@ template <class T>
 template <int Length>
 inline constexpr int singleLength = Length > 6 && Length % 16 != 0 ? 0 : Length;
 
-// Dense rows, at least a group of them. What is left over is one more group, which overlaps the last, or goes row by
-// row where the sources may lie under the destination. Rows that are stored past the caches begin with the first that
+// Dense rows in groups, what is left over row by row. Rows that are stored past the caches begin with the first that
 // starts a register of the destination.
+template <class T, int Length, bool isConstant, bool Streams, class Op>
+[[gnu::noinline]] void groupsInTurn(Op op, const RowCall& c)
+{
+    constexpr ptrdiff_t size = groupSize<T, Length, isConstant>();
+    const auto one = rowsOf<T, singleLength<Length>, Stepping, Op>;
+    const ptrdiff_t head = Streams ? rowsToAlignment<T>(c) : 0;
+    if (head < 0) return groupsInTurn<T, Length, isConstant, false>(op, c);
+    if (head > 0) one(op, c, 0, head);
+    const ptrdiff_t groups = (c.count - head) / size, done = head + groups * size;
+    groupsOf<T, Length, isConstant, Streams>(op, c, head, size, groups);
+    if (Streams) fenceStreams();
+    if (done < c.count) one(op, c, done, c.count - done);
+}
+
+// Dense rows, at least a group of them. What does not fill a group makes one more, the first, which the next overlaps,
+// unless the sources may lie under the destination.
 template <class T, int Length, bool isConstant, class Op>
 [[gnu::noinline]] void grouped(Op op, const RowCall& c)
 {
     constexpr size_t size = groupSize<T, Length, isConstant>();
-    const auto one = rowsOf<T, singleLength<Length>, Stepping, Op>;
-    auto rest = static_cast<size_t>(c.count); // of all rows, those not yet done
-    const ptrdiff_t head = isStreamed<T>(c, Length * c.count) ? rowsToAlignment<T>(c) : -1;
-    if (head >= 0)
-    {
-        if (head > 0) one(op, c, 0, head);
-        rest -= static_cast<size_t>(head);
-        groupsOf<T, Length, isConstant, true>(op, c, head, static_cast<ptrdiff_t>(rest / size));
-        fenceStreams();
-    }
-    else
-    {
-        groupsOf<T, Length, isConstant, false>(op, c, 0, static_cast<ptrdiff_t>(rest / size));
-    }
-    rest %= size;
-    if (rest == 0) return;
-    if (isApart(c.a, c) && isApart(c.b, c))
-        groupsOf<T, Length, isConstant, false>(op, c, c.count - static_cast<ptrdiff_t>(size), 1);
-    else
-        one(op, c, c.count - static_cast<ptrdiff_t>(rest), static_cast<ptrdiff_t>(rest));
+    const auto count = static_cast<size_t>(c.count);
+    const auto groups = static_cast<ptrdiff_t>(count / size), rest = static_cast<ptrdiff_t>(count % size);
+    if (rest == 0) return groupsOf<T, Length, isConstant, false>(op, c, 0, size, groups);
+    if (isApart(c.a, c) && isApart(c.b, c)) return groupsOf<T, Length, isConstant, false>(op, c, 0, rest, groups + 1);
+    groupsInTurn<T, Length, isConstant, false>(op, c);
 }
 
 // Dense rows of any length that are stored past the caches.
@@ -366,6 +379,25 @@ template <class T, class Op>
     streamCall(c, c.d.stride, [op](const RowCall& part) { rowsOf<T, 0, Stepping>(op, part, 0, part.count); });
 }
 
+// Which of the two, for a call that is large enough to ask: a function of its own, so that the others need not keep
+// anything across the question.
+template <class T, int Length, bool isConstant, class Op>
+[[gnu::noinline]] void groupedOrStreamed(Op op, const RowCall& c)
+{
+    repaysStreaming<T>(c, Length * c.count) ? groupsInTurn<T, Length, isConstant, true>(op, c)
+                                            : grouped<T, Length, isConstant>(op, c);
+}
+
+// Dense rows in groups, if the call is one of those: whether it was.
+template <class T, int Length, bool isConstant, class Op>
+ZEPM_INLINE bool takesGroups(Op op, const RowCall& c)
+{
+    if (c.isConstant != isConstant || !isGrouped<T>(c, groupSize<T, Length, isConstant>())) return false;
+    Length* c.count < leastStreamed / sz<T> ? grouped<T, Length, isConstant>(op, c)
+                                            : groupedOrStreamed<T, Length, isConstant>(op, c);
+    return true;
+}
+
 template <class T, int Length, class Op>
 ZEPM_INLINE void rowsInOrder(Op op, const RowCall& call)
 {
@@ -373,13 +405,11 @@ ZEPM_INLINE void rowsInOrder(Op op, const RowCall& call)
     {
         if constexpr (takesConstants<Length>)
         {
-            if (call.isConstant && isGrouped<T>(call, groupSize<T, Length, true>()))
-                return grouped<T, Length, true>(op, call);
+            if (takesGroups<T, Length, true>(op, call)) return;
         }
         if constexpr (!takesConstantAlone<Op>)
         {
-            if (!call.isConstant && isGrouped<T>(call, groupSize<T, Length, false>()))
-                return grouped<T, Length, false>(op, call);
+            if (takesGroups<T, Length, false>(op, call)) return;
         }
     }
     else if (const ptrdiff_t size = call.width * sz<T>; !call.isList && isDense(call.d, size) && size <= streamedChunk)
@@ -397,9 +427,9 @@ void combineRows(const RowCall& c)
 {
     if (isOneRow<T>(c)) return oneRow<T>(Op{}, c);
     // A fixed operand stands second; what is first with constants has code of its own.
-    if (c.a.isFixed && !c.isConstant)
+    if (c.a.isFixed() && !c.isConstant)
         return ZEPM_LEVEL::combineRows<decltype(flipped(Op{})), T>({c.b, c.a, c.d, false, c.isList, c.width, c.count});
-    const bool hasConstants = c.isConstant && !c.b.isFixed;
+    const bool hasConstants = c.isConstant && !c.b.isFixed();
     switch (hasConstants && c.width > 6 ? 0 : c.width)
     {
     case 3: return rowsInOrder<T, 3>(Op{}, c);

@@ -80,12 +80,18 @@ Status forkShares(const X& x, Kernel<X> kernel, int32 numThreads, [[maybe_unused
 }
 
 template <class X>
-Status shareObjects(const X& x, Kernel<X> kernel)
+ZEPM_INLINE bool isTooLight(const X& x)
 {
     if constexpr (LightWork<X>)
-    {
-        if (x.estimate() < ownGetMinParallelWork()) return kernel(x);
-    }
+        return ownGetMinParallelWork() > x.estimate();
+    else
+        return false;
+}
+
+template <class X>
+Status shareObjects(const X& x, Kernel<X> kernel)
+{
+    if (isTooLight(x)) return kernel(x);
     const int32 numThreads = ownGetNumThreads();
     if (numThreads <= 1 || x.count < numThreads) return kernel(x);
     if constexpr (NeedsScratch<X>)
