@@ -33,7 +33,8 @@ struct Dense
         }
     }
 
-    template <int Size, int N>
+    // Streams stores past the caches, to a multiple of 16.
+    template <int Size, int N, bool Streams = false>
     ZEPM_INLINE void store(char* p, const Lanes<N> (&x)[Size]) const
     {
         Lanes<N> r[Size];
@@ -53,8 +54,10 @@ struct Dense
         ZEPM_UNROLL
         for (int i = 0; i < Size; ++i)
             scattered<N>(
-                r[i], [&](int g, Lanes<4> row)
-                          __attribute__((always_inline)) { storeVec<float32, 4>(p + (g * Size + i) * 16, row); });
+                r[i], [&](int g, Lanes<4> row) __attribute__((always_inline)) {
+                    char* const to = p + (g * Size + i) * 16;
+                    Streams ? streamPieces<float32, 4>(to, row) : storeVec<float32, 4>(to, row);
+                });
     }
 };
 

@@ -101,6 +101,27 @@ ZEPM_INLINE void streamVec(char* p, Vec<T, lanes<T>> x)
 #endif
 }
 
+// Any vector to an address that is a multiple of 16, likewise.
+template <class T, int N>
+ZEPM_INLINE void streamPieces(char* p, Vec<T, N> x)
+{
+    constexpr int E = 16 / static_cast<int>(sizeof(T));
+    [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+    {
+        auto piece = [&]<int First>() __attribute__((always_inline))
+        {
+            const Vec<T, E> y = __builtin_shufflevector(x, x, (First + Lane)...);
+            _mm_stream_ps(reinterpret_cast<float*>(p + First * sizeof(T)), reinterpret_cast<__m128>(y));
+        };
+        [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline))
+        {
+            (piece.template operator()<I * E>(), ...);
+        }
+        (std::make_integer_sequence<int, N / E>{});
+    }
+    (std::make_integer_sequence<int, E>{});
+}
+
 ZEPM_INLINE void fenceStreams() { _mm_sfence(); }
 
 } // namespace zepm::ZEPM_LEVEL

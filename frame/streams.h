@@ -50,6 +50,20 @@ inline constexpr ptrdiff_t streamedChunk = 4096, streamedMatrix = 512;
 // How many chunks ahead the sources are fetched, besides the next one, which is on its way.
 inline constexpr ptrdiff_t chunksAhead = 3;
 
+// Fetches what lies some way ahead in a source, up to its end.
+struct FetchedAhead
+{
+    static constexpr ptrdiff_t distance = 2048;
+    const char* last;
+
+    ZEPM_INLINE FetchedAhead(const char* p, ptrdiff_t bytes) : last(p + bytes - 1) {}
+    ZEPM_INLINE void from(const char* p) const
+    {
+        const ptrdiff_t left = last - p;
+        __builtin_prefetch(p + (left < distance ? left : distance));
+    }
+};
+
 // A source of streamed objects: successive ones, or a fixed one with a step of 0.
 struct StreamSource
 {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/dense.h"
+#include "frame/streams.h"
 #include "product/products.h"
 
 namespace zepm::ZEPM_LEVEL
@@ -17,7 +18,7 @@ ZEPM_INLINE void multiplyRow(const V (&a)[3], const V (&e)[3][3], V (&d)[3])
 }
 
 // N rows at a time, as many as fit.
-template <int N>
+template <int N, bool Streams = false>
 ZEPM_INLINE void multiplyRows(const float32 (&e)[3][3], const char*& a, char*& d, ptrdiff_t& rows)
 {
     if (rows < N) return;
@@ -25,17 +26,20 @@ ZEPM_INLINE void multiplyRows(const float32 (&e)[3][3], const char*& a, char*& d
     ZEPM_UNROLL
     for (int k = 0; k < 3; ++k)
         for (int j = 0; j < 3; ++j) repeated[k][j] = broadcast<float32, N>(e[k][j]);
+    const FetchedAhead ahead(a, 12 * rows);
     for (; rows >= N; rows -= N)
     {
+        if (Streams) ahead.from(a);
         Lanes<N> x[3], y[3];
         Dense{}.template load<3, N>(a, x);
         multiplyRow(x, repeated, y);
-        Dense{}.template store<3, N>(d, y);
+        Dense{}.template store<3, N, Streams>(d, y);
         a += 12 * N, d += 12 * N;
     }
 }
 
-template <bool Transposes2>
+// Streams stores past the caches, to a multiple of 4; the caller orders that before what comes after.
+template <bool Transposes2, bool Streams = false>
 [[gnu::noinline]] void multiplyRowsOf3(const ProductCall& call)
 {
     float32 e[3][3];
@@ -44,15 +48,18 @@ template <bool Transposes2>
     const char* a = call.a.p;
     char* d = const_cast<char*>(call.d.p);
     ptrdiff_t rows = 3 * call.count;
-    multiplyRows<lanes<float32>>(e, a, d, rows);
-    if constexpr (lanes < float32 >> 4) multiplyRows<4>(e, a, d, rows);
-    for (; rows > 0; --rows, a += 12, d += 12)
-    {
+    auto one = [&] {
         float32 x[3], y[3];
         for (int j = 0; j < 3; ++j) x[j] = load<float32>(a + 4 * j);
         multiplyRow(x, e, y);
         for (int j = 0; j < 3; ++j) store<float32>(d + 4 * j, y[j]);
-    }
+        --rows, a += 12, d += 12;
+    };
+    if constexpr (Streams)
+        while (rows > 0 && reinterpret_cast<uintptr_t>(d) % 16 != 0) one();
+    multiplyRows<lanes<float32>, Streams>(e, a, d, rows);
+    if constexpr (lanes < float32 >> 4) multiplyRows<4>(e, a, d, rows);
+    while (rows > 0) one();
 }
 
 } // namespace zepm::ZEPM_LEVEL

@@ -217,7 +217,7 @@ template <class T, bool Transposes1, bool Transposes2>
     default: break;
     }
     if (call.rows == 8 && call.inner == 8 && call.cols == 8 && isSolid<T>(call, 8))
-        multiplyOrder<T, 8, Transposes1, Transposes2, true, Fixed::None>(call);
+        multiplyOrder<T, 8, Transposes1, Transposes2, true, Fixed::None, false>(call);
     else
         multiplyTiles<T, Transposes1, Transposes2>(call);
 }
@@ -236,6 +236,8 @@ template <class T, bool Transposes1, bool Transposes2>
 void multiplyMatrices(const ProductCall& call)
 {
     if (!isStreamed<T>(call)) return multiplyObjects<T, Transposes1, Transposes2>(call);
+    if (call.order == 3 && streamOrder<T, 3, Transposes1, Transposes2>(call)) return;
+    if (call.order == 4 && streamOrder<T, 4, Transposes1, Transposes2>(call)) return;
     streamCall(call, call.d.step, [](const ProductCall& part) { multiplyObjects<T, Transposes1, Transposes2>(part); });
 }
 

@@ -256,12 +256,14 @@ enum class Fixed
     Second
 };
 
-template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid>
+// Streams stores past the caches; results without gaps start at a multiple of 16 then.
+template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, bool Streams = false>
 struct Factors
 {
     using Object = Rows<T, Order, Solid>;
     // Orders that no kernel has a body of its own for are here for speed alone.
     static constexpr bool fromZero = Order > 6;
+    static constexpr ptrdiff_t size = Order * Order * sz<T>;
 
     // Columns First to First + Columns - 1 of the result in registers of up to Width lanes.
     template <int Width, int First, int Columns>
@@ -277,6 +279,8 @@ struct Factors
         static constexpr int N = blocks * blockLanes;
         // Whether the lanes of a block hold a row of a factor, and a(i, k) comes from there.
         static constexpr bool permutes = blocks > 1 && First == 0;
+        // Whether each register is a piece of one object.
+        static constexpr bool isWhole = Solid && Order == blockLanes && objects == 1;
         using V = Vec<T, N>;
 
         // Block r of register q is this row of that object.
@@ -303,7 +307,7 @@ struct Factors
                     each<Order>([&]<int I>() __attribute__((always_inline)) { rows[I] = rowOfAll<I>(a); });
                 else if constexpr (permutes)
                     each<registers>([&]<int Q>() __attribute__((always_inline)) {
-                        if constexpr (Solid && Order == blockLanes && objects == 1)
+                        if constexpr (isWhole)
                             rows[Q] = loadVec<T, N>(a[0].at(rowOf(Q, 0), 0));
                         else
                             rows[Q] = joinBlocks<T, blockLanes, blocks>([&]<int R>() __attribute__((always_inline)) {
@@ -399,8 +403,11 @@ struct Factors
                 each<Order - 1>([&]<int K>() __attribute__((always_inline)) {
                     sum += a.template get<Q, K + 1>() * b.rows[K + 1];
                 });
-                if constexpr (Solid && Order == blockLanes && objects == 1)
-                    storeVec<T, N>(const_cast<char*>(d[0].at(rowOf(Q, 0), 0)), sum);
+                char* const to = const_cast<char*>(d[0].at(rowOf(Q, 0), 0));
+                if constexpr (isWhole && Streams)
+                    streamPieces<T, N>(to, sum);
+                else if constexpr (isWhole)
+                    storeVec<T, N>(to, sum);
                 else
                     storeBlocks<Q, 0, blocks>(sum, d);
             });
@@ -481,13 +488,45 @@ struct Factors
         {
             const auto fixedA = gathered(a, call.a), fixedB = gathered(b, call.b);
             const All panels(fixedA.object, fixedB.object);
-            for (; count >= G; count -= G)
+            const FetchedAhead aheadA(a.p, call.a.isFixed ? 1 : count * call.a.step);
+            const FetchedAhead aheadB(b.p, call.b.isFixed ? 1 : count * call.b.step);
+            // What comes with so many bytes of each source.
+            auto fetch = [&](ptrdiff_t bytes) __attribute__((always_inline))
+            {
+                for (ptrdiff_t line = 0; line < bytes; line += 64)
+                {
+                    if constexpr (fixed != Fixed::First) aheadA.from(a.p + line);
+                    if constexpr (fixed != Fixed::Second) aheadB.from(b.p + line);
+                }
+            };
+            auto multiplyGroup = [&](const Group<G>& objectD) __attribute__((always_inline))
             {
                 const auto objectA = fixed == Fixed::First ? fixedA : gathered(a, call.a);
                 const auto objectB = fixed == Fixed::Second ? fixedB : gathered(b, call.b);
-                const auto objectD = gathered(d, call.d);
                 panels.template multiply<fixed>(objectA.object, objectB.object, objectD.object);
-                a.advance(G), b.advance(G), d.advance(G);
+                a.advance(G), b.advance(G);
+            };
+            if constexpr (Streams && !All::Own::isWhole)
+            {
+                // As many as are whole cache lines meet in a buffer.
+                constexpr int many = 16;
+                alignas(64) char buffer[many * size];
+                for (; count >= many; count -= many)
+                {
+                    Found x({buffer, size, call.d.stride1, false}, false);
+                    fetch(many * size);
+                    for (int k = 0; k < many; k += G, x.advance(G)) multiplyGroup(gathered(x, call.d));
+                    char* const to = const_cast<char*>(d.object(0));
+                    for (ptrdiff_t i = 0; i < many * size; i += registerBytes)
+                        streamPieces<T, lanes<T>>(to + i, loadVec<T, lanes<T>>(buffer + i));
+                    d.advance(many);
+                }
+            }
+            for (; count >= G; count -= G)
+            {
+                if (Streams) fetch(G * size);
+                multiplyGroup(gathered(d, call.d));
+                d.advance(G);
             }
         }
         if constexpr (G > 1)
@@ -506,12 +545,12 @@ private:
 
 // ---- The bodies of the orders ---------------------------------------------------------------------------------------
 
-template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, Fixed fixed>
+template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, Fixed fixed, bool Streams>
 [[gnu::noinline]] void multiplyOrder(const ProductCall& call)
 {
     // Objects of a list are not looked at for gaps.
     using Found = Objects<!Solid>;
-    Factors<T, Order, Transposes1, Transposes2, Solid>::template multiply<lanes<T>, fixed>(
+    Factors<T, Order, Transposes1, Transposes2, Solid, Streams>::template multiply<lanes<T>, fixed>(
         Found(call.a, call.isList), Found(call.b, call.isList), Found(call.d, call.isList), call, call.count);
 }
 
@@ -522,28 +561,79 @@ ZEPM_INLINE bool isSolid(const ProductCall& call, int order)
     return !call.isList && call.a.stride1 == rowSize && call.b.stride1 == rowSize && call.d.stride1 == rowSize;
 }
 
+// The first panel of solid objects.
+template <class T, int Order, bool Transposes1, bool Transposes2>
+using SolidPanel = typename Factors<T, Order, Transposes1, Transposes2, true>::template Panels<lanes<T>>::Own;
+
+template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, bool Streams = false>
+ZEPM_INLINE void multiplyObjectsOfOrder(const ProductCall& call)
+{
+    auto ofFixed = [&]<Fixed fixed>() __attribute__((always_inline))
+    {
+        multiplyOrder<T, Order, Transposes1, Transposes2, Solid, fixed, Streams>(call);
+    };
+    // A fixed first factor is held where that saves shuffles; elsewhere its elements come from memory anyway.
+    constexpr bool holdsFirst = Solid && !Streams && SolidPanel<T, Order, Transposes1, Transposes2>::permutes;
+    if (call.b.isFixed) return ofFixed.template operator()<Fixed::Second>();
+    if constexpr (holdsFirst)
+        if (call.a.isFixed) return ofFixed.template operator()<Fixed::First>();
+    ofFixed.template operator()<Fixed::None>();
+}
+
+// Whether rows of all objects go together.
+template <class T, bool Transposes1>
+ZEPM_INLINE bool takesRowsOf3(const ProductCall& call)
+{
+    constexpr ptrdiff_t size = 9 * sz<T>;
+    return sizeof(T) == 4 && !Transposes1 && call.b.isFixed && call.a.step == size && call.d.step == size &&
+           isSolid<T>(call, 3);
+}
+
 template <class T, int Order, bool Transposes1, bool Transposes2>
 ZEPM_INLINE void multiplyOrder(const ProductCall& call)
 {
-    const bool solid = isSolid<T>(call, Order);
-    if constexpr (Order == 3 && sizeof(T) == 4 && !Transposes1)
-    {
-        constexpr ptrdiff_t size = 9 * sz<T>;
-        if (solid && call.b.isFixed && call.a.step == size && call.d.step == size)
-            return multiplyRowsOf3<Transposes2>(call);
-    }
-    auto ofFixed = [&]<Fixed fixed>() __attribute__((always_inline))
-    {
-        solid ? multiplyOrder<T, Order, Transposes1, Transposes2, true, fixed>(call)
-              : multiplyOrder<T, Order, Transposes1, Transposes2, false, fixed>(call);
-    };
-    // A fixed first factor is held where that saves shuffles; elsewhere its elements come from memory anyway.
-    using Whole = typename Factors<T, Order, Transposes1, Transposes2, true>::template Panels<lanes<T>>;
-    constexpr bool holdsFirst = Whole::Own::permutes;
-    if (call.b.isFixed) return ofFixed.template operator()<Fixed::Second>();
-    if constexpr (holdsFirst)
-        if (call.a.isFixed && solid) return multiplyOrder<T, Order, Transposes1, Transposes2, true, Fixed::First>(call);
-    ofFixed.template operator()<Fixed::None>();
+    if constexpr (Order == 3)
+        if (takesRowsOf3<T, Transposes1>(call)) return multiplyRowsOf3<Transposes2>(call);
+    isSolid<T>(call, Order) ? multiplyObjectsOfOrder<T, Order, Transposes1, Transposes2, true>(call)
+                            : multiplyObjectsOfOrder<T, Order, Transposes1, Transposes2, false>(call);
+}
+
+// The first objects of a call, and those behind them.
+ZEPM_INLINE ProductCall firstOf(ProductCall call, ptrdiff_t objects)
+{
+    call.count = objects;
+    return call;
+}
+ZEPM_INLINE ProductCall behind(ProductCall call, ptrdiff_t objects)
+{
+    call.a.p += objects * call.a.toNext(), call.b.p += objects * call.b.toNext(), call.d.p += objects * call.d.step;
+    call.count -= objects;
+    return call;
+}
+
+// Results stored past the caches soon after they are computed, from the first on that starts 16 bytes: whether one
+// does.
+template <class T, int Order, bool Transposes1, bool Transposes2>
+[[gnu::noinline]] bool streamOrder(const ProductCall& call)
+{
+    const auto d = reinterpret_cast<uintptr_t>(call.d.p);
+    if constexpr (Order == 3)
+        if (d % sizeof(T) == 0 && takesRowsOf3<T, Transposes1>(call))
+        {
+            multiplyRowsOf3<Transposes2, true>(call);
+            fenceStreams();
+            return true;
+        }
+    if (!isSolid<T>(call, Order)) return false;
+    for (ptrdiff_t head = 0; head < 4; ++head)
+        if ((d + static_cast<uintptr_t>(head * call.d.step)) % 16 == 0)
+        {
+            if (head > 0) multiplyObjectsOfOrder<T, Order, Transposes1, Transposes2, true>(firstOf(call, head));
+            multiplyObjectsOfOrder<T, Order, Transposes1, Transposes2, true, true>(behind(call, head));
+            fenceStreams();
+            return true;
+        }
+    return false;
 }
 
 // One pair, without the road to another level.

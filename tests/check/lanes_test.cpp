@@ -225,16 +225,17 @@ TEST_P(LongLane, BeyondTheCaches)
     // With this the destination lies one element behind its page.
     const size_t element = function.isFloat32 ? 4 : 8, operands = function.operands.size();
     const size_t offset = (element + 80 - Trial::offsetStep * (operands - 1)) % 16;
-    // Vectors of a length with code of its own and of another, which all go their own ways past the caches.
-    const std::vector<std::vector<int>> sizesToTry = function.operands[0].letter == 'v'
-                                                         ? std::vector<std::vector<int>>{{3}, {7}}
-                                                         : std::vector<std::vector<int>>{function.sizesToTry[3]};
+    // Vectors of a length with code of its own and of another, and matrices of two sizes, which all go their own ways
+    // past the caches.
+    using Sizes = std::vector<std::vector<int>>;
+    const Sizes sizesToTry =
+        function.operands[0].letter == 'v' ? Sizes{{3}, {7}} : Sizes{function.sizesToTry[2], function.sizesToTry[3]};
     for (const int32 level : levels())
         for (const std::vector<int>& sizes : sizesToTry)
         {
             const AtLevel atLevel(level);
             // One object is left over behind whole registers, and some stand before the first of them.
-            const int32 count = elements / (sizes.size() == 1 ? sizes[0] : 9) / 16 * 16 + 1;
+            const int32 count = elements / (sizes.size() == 1 ? sizes[0] : sizes[0] * sizes[1]) / 16 * 16 + 1;
             for (const Placement placement : {Placement{true, 0}, Placement{false, offset}})
                 if (!passes({sizes, count, Strides::Dense, placement})) return;
         }
