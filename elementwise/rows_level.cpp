@@ -24,7 +24,7 @@ struct Stepping
     ZEPM_INLINE void next() { p += stride; }
 };
 
-// The second row is as far from the first as one likes.
+// Rows of which the second lies at a distance of its own from the first.
 struct SteppingFrom
 {
     const char* p;

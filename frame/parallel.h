@@ -79,6 +79,7 @@ Status forkShares(const X& x, Kernel<X> kernel, int32 numThreads, [[maybe_unused
     return status;
 }
 
+// Asked before anything is worked out that a serial call would have to keep meanwhile.
 template <class X>
 ZEPM_INLINE bool isTooLight(const X& x)
 {

@@ -490,7 +490,7 @@ struct Factors
             const All panels(fixedA.object, fixedB.object);
             const FetchedAhead aheadA(a.p, call.a.isFixed ? 1 : count * call.a.step);
             const FetchedAhead aheadB(b.p, call.b.isFixed ? 1 : count * call.b.step);
-            // What comes with so many bytes of each source.
+            // Fetches as many bytes ahead in each source as the next step reads.
             auto fetch = [&](ptrdiff_t bytes) __attribute__((always_inline))
             {
                 for (ptrdiff_t line = 0; line < bytes; line += 64)
