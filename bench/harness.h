@@ -18,6 +18,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <functional>
 #include <memory>
@@ -54,7 +55,10 @@ enum class Slot
 };
 
 // The storage of one slot, shared by all cases of a type: addresses never change, pages appear as they are first used.
-// It starts at a multiple of 64, in each slot at another place in its page.
+// It starts at a multiple of 64, in each slot at another place in its page and in another page of the first MiB: some
+// processors look lines up in the nearest cache by the low bits of the address alone, and those of operands a power of
+// two apart are the same. What remains of such conflicts depends on the placement, of which ZEPM_BENCH_PLACEMENT gives
+// as many as wanted: 0, 1, 2 and so on.
 template <class T>
 class Operand
 {
@@ -69,10 +73,17 @@ public:
     }
 
 private:
-    static constexpr size_t capacity = size_t{1} << 30;
+    static constexpr size_t capacity = size_t{1} << 30, placed = size_t{1} << 20;
     char* base = nullptr;
     size_t filled = 0;
     uint64_t state = 0;
+
+    static size_t placeOf(Slot slot)
+    {
+        const char* const placement = std::getenv("ZEPM_BENCH_PLACEMENT");
+        const size_t k = static_cast<size_t>(slot), steps = 37 + (placement ? std::strtoul(placement, nullptr, 10) : 0);
+        return k * steps * 4096 % (placed - 8192) / 4096 * 4096 + k * 17 * 64;
+    }
 
     void reach(Slot slot, size_t elements)
     {
@@ -81,10 +92,10 @@ private:
             void* const p =
                 mmap(nullptr, capacity, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
             if (p == MAP_FAILED) std::abort();
-            base = static_cast<char*>(p) + static_cast<size_t>(slot) * 17 * 64;
+            base = static_cast<char*>(p) + placeOf(slot);
             state = static_cast<uint64_t>(slot) + 1;
         }
-        if (elements * sizeof(T) > capacity - 8192) std::abort();
+        if (elements * sizeof(T) > capacity - placed) std::abort();
         for (; filled < elements; ++filled)
         {
             state = state * 6364136223846793005u + 1442695040888963407u;
