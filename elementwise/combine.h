@@ -95,27 +95,84 @@ ZEPM_INLINE void combineViews(Op op, const A& a, const B& b, const D& d, int32 w
 template <class T, bool IsArray, int Rank>
 ZEPM_INLINE RowOperand rowsOf(const StridedBlock<T, IsArray, Rank>& block)
 {
-    return {bytes(block.p), IsArray ? block.stride0 : RowOperand::fixed, block.stride1};
+    return {bytes(block.p), IsArray ? block.stride0 : RowOperand::fixed};
 }
 template <class T, int Rank>
 ZEPM_INLINE RowOperand rowsOf(const ListBlock<T, Rank>& block)
 {
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift, block.stride1};
+    return {reinterpret_cast<const char*>(block.pp), block.roiShift};
 }
 template <class T>
 ZEPM_INLINE RowOperand rowsOf(const ConstantBlock<T>& block)
 {
-    return {bytes(&block.val), RowOperand::fixed, 0};
+    return {bytes(&block.val), RowOperand::fixed};
 }
 template <class T>
 ZEPM_INLINE RowOperand rowsOf(const ConstantArrayBlock<T>& block)
 {
-    return {bytes(block.p), block.stride0, 0};
+    return {bytes(block.p), block.stride0};
 }
 template <class T>
 ZEPM_INLINE RowOperand rowsOf(const ConstantListBlock<T>& block)
 {
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift, 0};
+    return {reinterpret_cast<const char*>(block.pp), block.roiShift};
+}
+
+template <class Block>
+ZEPM_INLINE ptrdiff_t rowStrideOf(const Block& block)
+{
+    if constexpr (isConstantBlock<Block>)
+        return 0;
+    else
+        return block.stride1;
+}
+
+// Whether each row begins where the one before ends, constants likewise.
+template <class Block, class X>
+ZEPM_INLINE bool liesDense(const Block& block, const X& x)
+{
+    const ptrdiff_t rowSize = static_cast<ptrdiff_t>(sizeof(typename Block::Element)) * x.width;
+    if constexpr (std::is_same_v<Block, ConstantArrayBlock<typename Block::Element>>)
+        return block.stride0 == sizeof(typename Block::Element);
+    else if constexpr (!isConstantBlock<Block>)
+        return (X::rank == 1 || block.stride1 == rowSize) && (!Block::isArray || block.stride0 == x.height * rowSize);
+    else
+        return true;
+}
+
+template <class A, class B>
+inline constexpr Sources sourcesOf = isConstantBlock<B>          ? (!B::isArray  ? Sources::RowsAndOneConstant
+                                                                    : A::isArray ? Sources::RowsAndConstants
+                                                                                 : Sources::OneRowAndConstants)
+                                     : A::isArray && !B::isArray ? Sources::RowsAndOneRow
+                                                                 : Sources::RowsAndRows;
+
+// Objects with contiguous rows, a and b being the sources in the order of op.
+template <class Op, class X, class A, class B>
+ZEPM_INLINE void combineContiguous(Op, const X& x, const A& a, const B& b)
+{
+    using Dst = decltype(x.dst);
+    using T = typename Dst::Element;
+    constexpr bool isTransposedA = isTransposedBlock<A>, isTransposedB = isTransposedBlock<B>;
+    constexpr bool isList = isListBlock<Dst>;
+    const int32 level = ownGetCpuLevel();
+    const RowOperand rowsA = rowsOf(a), rowsB = rowsOf(b), rowsD = rowsOf(x.dst);
+    if constexpr (!isTransposedA && !isTransposedB && !isList)
+    {
+        if (liesDense(a, x) && liesDense(b, x) && liesDense(x.dst, x))
+            return combineDense<Op, T>(level, rowsA.p, rowsB.p, bytes(x.dst.p),
+                                       static_cast<ptrdiff_t>(x.width) * x.height, x.count, sourcesOf<A, B>);
+    }
+    if constexpr (X::rank == 1)
+        combineRows<Op, T>(level, {rowsA, rowsB, rowsD, isConstantBlock<B>, isList, x.width, x.count});
+    else
+        combineMatrices<Op, T>(level, {{rowsA, rowsB, rowsD, isConstantBlock<B>, isList, x.width, x.count},
+                                       x.height,
+                                       rowStrideOf(a),
+                                       rowStrideOf(b),
+                                       rowStrideOf(x.dst),
+                                       isTransposedA,
+                                       isTransposedB});
 }
 
 // ---- Elements side by side ------------------------------------------------------------------------------------------
@@ -131,12 +188,12 @@ ZEPM_INLINE bool liesAcross(const T& block)
 }
 
 template <class Block, class X>
-ZEPM_INLINE RowOperand rowAcross(const Block& block, const X& x, int32 i, int32 j)
+ZEPM_INLINE auto rowAcross(const Block& block, const X& x, int32 i, int32 j)
 {
     if constexpr (isConstantBlock<Block>)
-        return rowsOf(block);
+        return rowsOf(block).p;
     else
-        return {viewOf<false>(block, x).object(0).at(i, j), RowOperand::fixed, 0};
+        return viewOf<false>(block, x).object(0).at(i, j);
 }
 
 template <class Op, class X>
@@ -144,17 +201,19 @@ ZEPM_INLINE void combineAcross(Op op, const X& x)
 {
     using T = typename decltype(x.dst)::Element;
     // The operand that is the same for all objects is the constant of these rows, and stands second.
-    constexpr bool isConstant = !decltype(x.src1)::isArray || !decltype(x.src2)::isArray;
     constexpr bool flips = !decltype(x.src1)::isArray;
+    constexpr Sources sources =
+        flips || !decltype(x.src2)::isArray ? Sources::RowsAndOneConstant : Sources::RowsAndRows;
+    const int32 level = ownGetCpuLevel();
     for (int32 i = 0; i < x.height; ++i)
         for (int32 j = 0; j < x.width; ++j)
         {
-            const RowOperand a = rowAcross(x.src1, x, i, j), b = rowAcross(x.src2, x, i, j),
-                             d = rowAcross(x.dst, x, i, j);
+            const char *const a = rowAcross(x.src1, x, i, j), *const b = rowAcross(x.src2, x, i, j);
+            char* const d = rowAcross(x.dst, x, i, j);
             if constexpr (flips)
-                combineRows<decltype(flipped(op)), T>({b, a, d, isConstant, false, x.count, 1});
+                combineDense<decltype(flipped(op)), T>(level, b, a, d, x.count, 1, sources);
             else
-                combineRows<Op, T>({a, b, d, isConstant, false, x.count, 1});
+                combineDense<Op, T>(level, a, b, d, x.count, 1, sources);
         }
 }
 
@@ -193,7 +252,8 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
     bool isApart = x.width > 6 && apart(a);
     if constexpr (!isConstant) isApart = isApart && apart(b);
     if (isApart)
-        combineRows<Op, T>({rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst), isConstant, false, x.width, 1});
+        combineDense<Op, T>(ownGetCpuLevel(), a, rowsOf(x.src2).p, d, x.width, 1,
+                            sourcesOf<decltype(x.src1), decltype(x.src2)>);
     else
         combineObject(op, viewOf<true>(x.src1, x).object(0), viewOf<true>(x.src2, x).object(0),
                       viewOf<true>(x.dst, x).object(0), x.width, 1);
@@ -203,36 +263,17 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
 template <class Op, class X>
 ZEPM_INLINE Status combinePacked(Op op, const X& x)
 {
-    using Dst = decltype(x.dst);
-    using T = typename Dst::Element;
-    constexpr bool isConstant = isConstantBlock<decltype(x.src2)>;
-    if constexpr (X::rank == 2)
-    {
-        // Where one source alone is transposed, it stands first.
-        constexpr bool isTransposedA = isTransposedBlock<decltype(x.src1)>;
-        constexpr bool isTransposedB = isTransposedBlock<decltype(x.src2)>;
-        if constexpr (isTransposedB && !isTransposedA)
-            combineMatrices<decltype(flipped(op)), T>(
-                {{rowsOf(x.src2), rowsOf(x.src1), rowsOf(x.dst), false, isListBlock<Dst>, x.width, x.count},
-                 x.height,
-                 true,
-                 false});
-        else
-            combineMatrices<Op, T>(
-                {{rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst), isConstant, isListBlock<Dst>, x.width, x.count},
-                 x.height,
-                 isTransposedA,
-                 isTransposedB});
-    }
-    else if constexpr (Dst::isArray && !isConstant && !decltype(x.src1)::isArray)
-        // A fixed source stands second.
-        combineRows<decltype(flipped(op)), T>(
-            {rowsOf(x.src2), rowsOf(x.src1), rowsOf(x.dst), false, isListBlock<Dst>, x.width, x.count});
-    else if constexpr (Dst::isArray)
-        combineRows<Op, T>(
-            {rowsOf(x.src1), rowsOf(x.src2), rowsOf(x.dst), isConstant, isListBlock<Dst>, x.width, x.count});
-    else
+    using Src1 = decltype(x.src1);
+    using Src2 = decltype(x.src2);
+    // Where one source alone is transposed, it stands first; where one row serves all objects, it stands second.
+    constexpr bool isTransposedA = isTransposedBlock<Src1>, isTransposedB = isTransposedBlock<Src2>;
+    constexpr bool isFirstOneRow = !Src1::isArray && Src2::isArray && !isConstantBlock<Src2> && !isTransposedA;
+    if constexpr (X::rank == 1 && !decltype(x.dst)::isArray)
         combineVector(op, x);
+    else if constexpr ((isTransposedB && !isTransposedA) || isFirstOneRow)
+        combineContiguous(flipped(op), x, x.src2, x.src1);
+    else
+        combineContiguous(op, x, x.src1, x.src2);
     return stsOk;
 }
 

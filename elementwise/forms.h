@@ -58,23 +58,37 @@ struct TwoPerObject
     }
 };
 
-// Objects or arrays of them, with objects or constants. A vector of len elements is a matrix of one row.
+// The size of each object. A vector of len elements is a matrix of one row.
+template <int Rank>
+struct Extent
+{
+    int32 width, height;
+};
+template <>
+struct Extent<1>
+{
+    int32 width;
+    static constexpr int32 height = 1;
+};
+
+// Objects or arrays of them, with objects or constants.
 template <int Rank, class Src1, class Src2, class Dst, class Estimate = ElementsTouched>
-struct Elementwise
+struct Elementwise : Extent<Rank>
 {
     static constexpr bool lightWork = true;
     static constexpr int rank = Rank;
     Src1 src1;
     Src2 src2;
     Dst dst;
-    int32 width, height, count;
+    using Extent<Rank>::width, Extent<Rank>::height;
+    int32 count;
 
     ZEPM_INLINE Elementwise(Src1 a, Src2 b, Dst d, int32 len, int32 n = 1) requires(Rank == 1)
-        : src1(a), src2(b), dst(d), width(len), height(1), count(n)
+        : Extent<Rank>{len}, src1(a), src2(b), dst(d), count(n)
     {
     }
     ZEPM_INLINE Elementwise(Src1 a, Src2 b, Dst d, int32 columns, int32 rows, int32 n = 1) requires(Rank == 2)
-        : src1(a), src2(b), dst(d), width(columns), height(rows), count(n)
+        : Extent<Rank>{columns, rows}, src1(a), src2(b), dst(d), count(n)
     {
     }
 

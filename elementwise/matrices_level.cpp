@@ -38,15 +38,16 @@ struct Objects
     ZEPM_INLINE void next() { p += step; }
 };
 
-// Whether f is true of the operands that have rows.
+// Whether f is true of the operands that have rows, and of their row strides.
 template <class F>
 ZEPM_INLINE bool ofRows(const MatrixCall& c, F f)
 {
-    return f(c.a) && (c.isConstant || f(c.b)) && f(c.d);
+    return f(c.a, c.rowStrideA) && (c.isConstant || f(c.b, c.rowStrideB)) && f(c.d, c.rowStrideD);
 }
-
-// The rows of one object as if each were an object.
-ZEPM_INLINE RowOperand rowByRow(const RowOperand& operand, const char* p) { return {p, operand.rowStride, 0}; }
+ZEPM_INLINE bool haveRowStride(const MatrixCall& c, ptrdiff_t size)
+{
+    return ofRows(c, [size](const RowOperand&, ptrdiff_t rowStride) { return rowStride == size; });
+}
 
 // Gapped rows of few elements, object by object: in rowOf b is a pointer, or the constant.
 template <int Width, bool IsList, class T, class Op>
@@ -54,7 +55,7 @@ template <int Width, bool IsList, class T, class Op>
 {
     Objects<IsList> a(c.a), b(c.b), d(c.d);
     const ptrdiff_t count = c.count, height = c.height;
-    const ptrdiff_t strideA = c.a.rowStride, strideB = c.b.rowStride, strideD = c.d.rowStride;
+    const ptrdiff_t strideA = c.rowStrideA, strideB = c.rowStrideB, strideD = c.rowStrideD;
     T constant{};
     if constexpr (takesConstantAlone<Op>) constant = load<T>(c.b.p);
     for (ptrdiff_t k = 0; k < count; ++k)
@@ -84,8 +85,9 @@ template <bool IsList, class Op, class T>
     Objects<IsList> a(c.a), b(c.b), d(c.d);
     for (ptrdiff_t k = 0; k < c.count; ++k)
     {
-        ZEPM_LEVEL::combineRows<Op, T>({rowByRow(c.a, a.at()), c.isConstant ? c.b : rowByRow(c.b, b.at()),
-                                        rowByRow(c.d, d.at()), c.isConstant, false, c.width, c.height});
+        const RowOperand rowsB = c.isConstant ? c.b : RowOperand{b.at(), c.rowStrideB};
+        ZEPM_LEVEL::combineRows<Op, T>(
+            {{a.at(), c.rowStrideA}, rowsB, {d.at(), c.rowStrideD}, c.isConstant, false, c.width, c.height});
         a.next(), b.next(), d.next();
     }
 }
@@ -109,19 +111,19 @@ ZEPM_INLINE void combineGapped(const MatrixCall& c)
 template <class Op, class T>
 ZEPM_INLINE void combineAsRows(MatrixCall& c)
 {
-    if (ofRows(c, [&](const RowOperand& x) { return x.rowStride == c.width * sz<T>; }))
+    if (haveRowStride(c, c.width * sz<T>))
     {
         c.width *= c.height;
         return ZEPM_LEVEL::combineRows<Op, T>(c);
     }
     // The rows of all objects in one sequence.
-    if (!c.isList && ofRows(c, [&](const RowOperand& x) {
-            return c.count == 1 || (!x.isFixed() && x.stride == c.height * x.rowStride);
+    if (!c.isList && ofRows(c, [&](const RowOperand& x, ptrdiff_t rowStride) {
+            return c.count == 1 || (!x.isFixed() && x.stride == c.height * rowStride);
         }))
     {
-        c.a = rowByRow(c.a, c.a.p);
-        if (!c.isConstant) c.b = rowByRow(c.b, c.b.p);
-        c.d = rowByRow(c.d, c.d.p);
+        c.a.stride = c.rowStrideA;
+        if (!c.isConstant) c.b.stride = c.rowStrideB;
+        c.d.stride = c.rowStrideD;
         c.count *= c.height;
         return ZEPM_LEVEL::combineRows<Op, T>(c);
     }
@@ -229,7 +231,7 @@ template <int Order, Second second, bool IsList, ptrdiff_t RowSize, class T, cla
     T constant{};
     if constexpr (second == Second::Constant) constant = load<T>(c.b.p);
     const ptrdiff_t count = c.count, width = c.width, height = c.height;
-    ptrdiff_t strideA = c.a.rowStride, strideB = c.b.rowStride, strideD = c.d.rowStride;
+    ptrdiff_t strideA = c.rowStrideA, strideB = c.rowStrideB, strideD = c.rowStrideD;
     for (ptrdiff_t k = 0; k < count; ++k)
     {
         // Not to be known ahead of the loop: the distances of all rows would be, and fill the stack.
@@ -246,17 +248,23 @@ template <int Order, Second second, bool IsList, ptrdiff_t RowSize, class T, cla
 
 // ---- Dense matrices of few elements ---------------------------------------------------------------------------------
 
-// The registers that hold a dense matrix whole, but for a last element that transposition leaves in its place. It fits
-// where there are enough, and each register of the transpose has its lanes from two of them at most.
-template <class T, int Order>
+// The registers that hold a dense matrix whole, or some side by side, but for a last element that transposition leaves
+// in its place. It fits where there are enough, and each register of the transpose has its lanes from two of them at
+// most.
+template <class T, int Order, int Objects = 1>
 struct Whole
 {
-    static constexpr int size = Order * Order / 2 * 2;
+    static constexpr int elements = Objects * Order * Order;
+    static constexpr int size = elements / 2 * 2;
     static constexpr int N = size <= lanes<T> ? size : lanes<T>;
     static constexpr int registers = size / N;
 
     // The element that is element n of the transpose.
-    static constexpr int from(int n) { return n % Order * Order + n / Order; }
+    static constexpr int from(int n)
+    {
+        const int inObject = n % (Order * Order);
+        return n - inObject + inObject % Order * Order + inObject / Order;
+    }
 
     // The registers that the lanes of register R of the transpose are from.
     template <int R>
@@ -291,19 +299,19 @@ struct Whole
     (std::make_integer_sequence<int, size % N == 0 ? registers : 1>{});
 };
 
-// Successive objects in S, without gaps or with any distance from object to object.
-template <int Order, Second second, class T, class Op>
+// Successive objects in S, without gaps or with any distance from object to object; Together at a time if without.
+template <int Order, int Together, Second second, class T, class Op>
 [[gnu::noinline]] void wholeOfEach(Op op, const MatrixCall& c)
 {
-    using Matrix = Whole<T, Order>;
-    constexpr int N = Matrix::N, registers = Matrix::registers;
     const char *a = c.a.p, *b = c.b.p;
     char* d = const_cast<char*>(c.d.p);
     const ptrdiff_t aStep = c.a.toNext(), bStep = c.b.toNext(), dStep = c.d.stride;
     T constant{};
     if constexpr (second == Second::Constant) constant = load<T>(b);
-    for (ptrdiff_t count = c.count; count > 0; --count)
+    auto some = [&]<int Objects>() __attribute__((always_inline))
     {
+        using Matrix = Whole<T, Order, Objects>;
+        constexpr int N = Matrix::N, registers = Matrix::registers;
         Vec<T, N> x[registers] = {};
         forEachIndex<registers>([&]<int R>() __attribute__((always_inline)) {
             x[R] = loadVec<T, N>(a + R * N * sz<T>);
@@ -316,36 +324,53 @@ template <int Order, Second second, class T, class Op>
             if constexpr (second == Second::Normal) y = op(y, loadVec<T, N>(b + R * N * sz<T>));
             storeVec<T, N>(d + R * N * sz<T>, y);
         });
-        if constexpr (Matrix::size < Order * Order)
+        if constexpr (Matrix::size < Matrix::elements)
         {
             constexpr ptrdiff_t last = Matrix::size * sz<T>;
             T y = constant;
             if constexpr (second != Second::Constant) y = load<T>(b + last);
             store<T>(d + last, op(load<T>(a + last), y));
         }
-        a += aStep, b += bStep, d += dStep;
-    }
+        a += Objects * aStep, b += Objects * bStep, d += Objects * dStep;
+    };
+    ptrdiff_t count = c.count;
+    for (; count >= Together; count -= Together) some.template operator()<Together>();
+    if constexpr (Together > 1)
+        for (; count > 0; --count) some.template operator()<1>();
+}
+
+// Two matrices of an odd order fill whole registers of two elements. One by one, every other would lie at half a
+// register, and its pieces across cache lines.
+template <class T, int Order>
+inline constexpr int togetherIfDense = lanes<T> == 2 && Order % 2 == 1 && Whole<T, Order, 2>::fits ? 2 : 1;
+
+// Whether matrices without gaps lie so themselves.
+template <class T>
+ZEPM_INLINE bool areDense(const MatrixCall& c)
+{
+    const ptrdiff_t size = c.width * c.height * sz<T>;
+    return c.a.stride == size && (c.isConstant || c.b.stride == size) && c.d.stride == size;
 }
 
 template <int Order, Second second, class T, class Op>
 ZEPM_INLINE void squareOfEach(Op op, const MatrixCall& c)
 {
-    auto hasRowsOf = [&](ptrdiff_t size) __attribute__((always_inline))
-    {
-        return ofRows(c, [size](const RowOperand& x) { return x.rowStride == size; });
-    };
     constexpr ptrdiff_t dense = Order * sz<T>, records = 4 * sz<T>;
     if (c.isList) return tilesOfEach<Order, second, true, 0, T>(op, c);
-    if (hasRowsOf(dense))
+    if (haveRowStride(c, dense))
     {
         if constexpr (Whole<T, Order>::fits)
-            return wholeOfEach<Order, second, T>(op, c);
+        {
+            constexpr int together = togetherIfDense<T, Order>;
+            return together > 1 && areDense<T>(c) ? wholeOfEach<Order, together, second, T>(op, c)
+                                                  : wholeOfEach<Order, 1, second, T>(op, c);
+        }
         else
             return tilesOfEach<Order, second, false, dense, T>(op, c);
     }
     if constexpr (Order == 3)
     {
-        if (hasRowsOf(records)) return tilesOfEach<Order, second, false, records, T>(op, c);
+        if (haveRowStride(c, records)) return tilesOfEach<Order, second, false, records, T>(op, c);
     }
     tilesOfEach<Order, second, false, 0, T>(op, c);
 }
@@ -382,12 +407,13 @@ template <class Op, class T>
     alignas(64) char copy[copiedBytes];
     const ptrdiff_t rowSize = c.width * sz<T>;
     const T unused{};
-    const RowOperand to{copy, RowOperand::fixed, rowSize};
-    const RowOperand constant{reinterpret_cast<const char*>(&unused), RowOperand::fixed, 0};
-    combineTransposed<Second::Constant, T>(First{},
-                                           {{c.a, constant, to, true, false, c.width, 1}, c.height, true, false});
-    MatrixCall copied{{to, c.b, c.d, false, c.isList, c.width, c.count}, c.height, false, false};
-    combineAsRows<Op, T>(copied);
+    const RowOperand to{copy, RowOperand::fixed};
+    const RowOperand constant{reinterpret_cast<const char*>(&unused), RowOperand::fixed};
+    combineTransposed<Second::Constant, T>(
+        First{}, {{c.a, constant, to, true, false, c.width, 1}, c.height, c.rowStrideA, 0, rowSize, true, false});
+    MatrixCall copied{
+        {c.b, to, c.d, false, c.isList, c.width, c.count}, c.height, c.rowStrideB, rowSize, c.rowStrideD, false, false};
+    combineAsRows<decltype(flipped(Op{})), T>(copied);
 }
 
 // The first source, or both, transposed.
@@ -415,7 +441,7 @@ ZEPM_INLINE bool isStreamed(const MatrixCall& c)
 {
     const ptrdiff_t rowSize = c.width * sz<T>, size = c.height * rowSize;
     const int sources = !c.a.isFixed() + (!c.b.isFixed() && !c.isConstant);
-    return !c.isList && c.d.rowStride == rowSize && c.d.stride == size && size <= streamedMatrix &&
+    return !c.isList && c.rowStrideD == rowSize && c.d.stride == size && size <= streamedMatrix &&
            isBeyondCaches(c.count * size, sources) && c.a.p != c.d.p && c.b.p != c.d.p;
 }
 

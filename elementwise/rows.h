@@ -8,6 +8,16 @@
 namespace zepm
 {
 
+// What the sources of a call give to each object: a row or a constant of its own, or one for all.
+enum class Sources
+{
+    RowsAndRows,
+    RowsAndOneRow,
+    RowsAndConstants,
+    RowsAndOneConstant,
+    OneRowAndConstants
+};
+
 // Where the rows of one operand lie, those of object k from p + k * stride on or, in a list, from entry k of the table
 // p plus stride. An operand that is the same for every object has the stride fixed, and is never a list.
 struct RowOperand
@@ -15,13 +25,12 @@ struct RowOperand
     static constexpr ptrdiff_t fixed = -1;
     const char* p;
     ptrdiff_t stride;
-    ptrdiff_t rowStride; // from row to row of one object
 
     ZEPM_INLINE bool isFixed() const { return stride < 0; }
     ZEPM_INLINE ptrdiff_t toNext() const { return isFixed() ? 0 : stride; }
 };
 
-// d = op(a, b) on count objects of one row of width elements.
+// d = op(a, b) on count objects of one row of width elements. One row for all stands second, unless with constants.
 struct RowCall
 {
     RowOperand a, b, d;
@@ -30,16 +39,20 @@ struct RowCall
     ptrdiff_t width, count;
 };
 
-// The same on objects of several rows. A transposed source is stored as width rows of height elements.
+// The same on objects of several rows, which lie a row stride from each other. A transposed source is stored as width
+// rows of height elements.
 struct MatrixCall : RowCall
 {
     ptrdiff_t height;
+    ptrdiff_t rowStrideA, rowStrideB, rowStrideD;
     bool isTransposedA, isTransposedB;
 };
 
 #define ZEPM_DECLARE_LEVEL(level)                                                                                      \
     namespace level                                                                                                    \
     {                                                                                                                  \
+    template <class Op, class T>                                                                                       \
+    void combineDense(const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count, Sources sources);       \
     template <class Op, class T>                                                                                       \
     void combineRows(const RowCall& call);                                                                             \
     template <class Op, class T>                                                                                       \
@@ -50,16 +63,28 @@ ZEPM_DECLARE_LEVEL(avx2)
 ZEPM_DECLARE_LEVEL(avx512)
 #undef ZEPM_DECLARE_LEVEL
 
+// The level is the one in force, which the caller asks for before it has anything to keep meanwhile.
+
+// Rows of which each begins where the one before ends, constants likewise. All in registers: the results are stored one
+// a cycle, so that a struct to pass would delay them.
 template <class Op, class T>
-ZEPM_INLINE void combineRows(const RowCall& call)
+ZEPM_INLINE void combineDense(int32 level, const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count,
+                              Sources sources)
 {
-    atLevel(ssse3::combineRows<Op, T>, avx2::combineRows<Op, T>, avx512::combineRows<Op, T>)(call);
+    atLevel(level, ssse3::combineDense<Op, T>, avx2::combineDense<Op, T>, avx512::combineDense<Op, T>)(a, b, d, width,
+                                                                                                       count, sources);
 }
 
 template <class Op, class T>
-ZEPM_INLINE void combineMatrices(MatrixCall call)
+ZEPM_INLINE void combineRows(int32 level, const RowCall& call)
 {
-    atLevel(ssse3::combineMatrices<Op, T>, avx2::combineMatrices<Op, T>, avx512::combineMatrices<Op, T>)(call);
+    atLevel(level, ssse3::combineRows<Op, T>, avx2::combineRows<Op, T>, avx512::combineRows<Op, T>)(call);
+}
+
+template <class Op, class T>
+ZEPM_INLINE void combineMatrices(int32 level, MatrixCall call)
+{
+    atLevel(level, ssse3::combineMatrices<Op, T>, avx2::combineMatrices<Op, T>, avx512::combineMatrices<Op, T>)(call);
 }
 
 } // namespace zepm

@@ -241,209 +241,270 @@ template <class T, int Length, class Lying, class Op>
                       : rows<T, Length>(op, a, Elements<T, Lying>{Lying(c.b, k)}, d, c.width, count);
 }
 
+// ---- Rows one by one ------------------------------------------------------------------------------------------------
+
+template <class T, int Length, class Op>
+ZEPM_INLINE void rowsInOrder(Op op, const RowCall& c, ptrdiff_t k, ptrdiff_t count)
+{
+    c.isList ? rowsOf<T, Length, Listed>(op, c, k, count) : rowsOf<T, Length, Stepping>(op, c, k, count);
+}
+
+// count rows from row k on.
+template <class T, class Op>
+[[gnu::noinline]] void oneByOne(Op op, const RowCall& c, ptrdiff_t k, ptrdiff_t count)
+{
+    const bool hasConstants = c.isConstant && !c.b.isFixed();
+    switch (hasConstants && c.width > 6 ? 0 : c.width)
+    {
+    case 3: return rowsInOrder<T, 3>(op, c, k, count);
+    case 4: return rowsInOrder<T, 4>(op, c, k, count);
+    case 5: return rowsInOrder<T, 5>(op, c, k, count);
+    case 6: return rowsInOrder<T, 6>(op, c, k, count);
+    case 16: return rowsInOrder<T, 16>(op, c, k, count);
+    default: return rowsInOrder<T, 0>(op, c, k, count);
+    }
+}
+
+// Whether a dense destination of so many bytes is to be stored past the caches; in place it is read anyway.
+template <class T>
+[[gnu::noinline]] bool repaysStreaming(const char* a, const char* b, const char* d, ptrdiff_t size, int sources)
+{
+    return a != d && b != d && reinterpret_cast<uintptr_t>(d) % sizeof(T) == 0 && isBeyondCaches(size, sources);
+}
+
+template <class T>
+ZEPM_INLINE bool isStreamed(const RowCall& c)
+{
+    const ptrdiff_t rowSize = c.width * sz<T>, size = c.count * rowSize;
+    return size >= leastStreamed && !c.isList && c.d.stride == rowSize && rowSize <= streamedChunk &&
+           repaysStreaming<T>(c.a.p, c.b.p, c.d.p, size, !c.a.isFixed() + (!c.b.isFixed() && !c.isConstant));
+}
+
+template <class T, class Op>
+[[gnu::noinline]] void streamRows(Op op, const RowCall& c)
+{
+    streamCall(c, c.d.stride, [op](const RowCall& part) { oneByOne<T>(op, part, 0, part.count); });
+}
+
+// ---- Dense rows -----------------------------------------------------------------------------------------------------
+//
+// Whatever is asked for few calls only has a function of its own, so that the others keep nothing across the question.
+
+template <Sources sources>
+inline constexpr bool hasConstants = sources == Sources::RowsAndConstants || sources == Sources::OneRowAndConstants;
+
+template <class T, Sources sources>
+ZEPM_INLINE RowCall callOf(const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count)
+{
+    const ptrdiff_t size = width * sz<T>;
+    return {{a, sources == Sources::OneRowAndConstants ? RowOperand::fixed : size},
+            {b, hasConstants<sources> ? sz<T> : RowOperand::fixed},
+            {d, size},
+            hasConstants<sources>,
+            false,
+            width,
+            count};
+}
+
+template <class T, Sources sources, class Op>
+[[gnu::noinline]] void denseOneByOne(Op op, const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count)
+{
+    const RowCall c = callOf<T, sources>(a, b, d, width, count);
+    isStreamed<T>(c) ? streamRows<T>(op, c) : oneByOne<T>(op, c, 0, count);
+}
+
+// All rows as one, b being the elements or the constant.
+template <class T, class Op, class B>
+[[gnu::noinline]] void longestRow(Op op, const char* a, B b, char* d, ptrdiff_t n)
+{
+    constexpr bool isConstant = std::is_same_v<B, T>;
+    const char* other = a;
+    if constexpr (!isConstant) other = b;
+    repaysStreaming<T>(a, other, d, n * sz<T>, isConstant ? 1 : 2) ? row<T, true>(op, a, b, d, n)
+                                                                   : row<T>(op, a, b, d, n);
+}
+template <class T, class Op, class B>
+ZEPM_INLINE void oneRow(Op op, const char* a, B b, char* d, ptrdiff_t n)
+{
+    n < leastStreamed / sz<T> ? row<T>(op, a, b, d, n) : longestRow<T>(op, a, b, d, n);
+}
+
 // How many dense rows fill whole registers together, some registers at least: what surrounds a group costs as much as
 // one. With constants it is as many as a register holds.
-template <class T, int Length, bool isConstant>
+template <class T, int Length, Sources sources>
 constexpr int groupSize()
 {
-    if (isConstant) return lanes<T>;
+    if (hasConstants<sources>) return lanes<T>;
     constexpr int leastRegisters = 4;
     int size = 1;
     while (size * Length % lanes<T> != 0 || size * Length < leastRegisters * lanes<T>) size *= 2;
     return size;
 }
 
-// Dense rows of few elements in groups of whole registers: count of them from row k on, each a row of its own. The
-// second group begins toSecond rows behind the first, those behind it where the one before ends.
-template <class T, int Length, bool isConstant, bool Streams, class Op>
-[[gnu::noinline]] void groupsOf(Op op, const RowCall& c, ptrdiff_t k, ptrdiff_t toSecond, ptrdiff_t count)
+// Dense rows of few elements in groups of whole registers: count of them from a, b and d on. The second group begins
+// toSecond rows behind the first, those behind it where the one before ends.
+template <class T, int Length, Sources sources, bool Streams, class Op>
+[[gnu::noinline]] void groupsOf(Op op, const char* a, const char* b, char* d, ptrdiff_t toSecond, ptrdiff_t count)
 {
-    constexpr int size = groupSize<T, Length, isConstant>();
-    auto lying = [&](const RowOperand& operand, ptrdiff_t rowBytes) __attribute__((always_inline))
+    constexpr int size = groupSize<T, Length, sources>();
+    auto lying = [&](const char* p, ptrdiff_t rowBytes) __attribute__((always_inline))
     {
-        return SteppingFrom{operand.p + k * rowBytes, toSecond * rowBytes, size * rowBytes};
+        return SteppingFrom{p, toSecond * rowBytes, size * rowBytes};
     };
-    const Elements<T, SteppingFrom> a{lying(c.a, Length * sz<T>)};
     auto along = [&](auto first, auto second) __attribute__((always_inline))
     {
-        rows<T, Length * size, Streams>(op, first, second, lying(c.d, Length * sz<T>), 0, count);
+        rows<T, Length * size, Streams>(op, first, second, lying(d, Length * sz<T>), 0, count);
     };
-    if constexpr (!isConstant)
-        along(a, Held<T, Length, size>(c.b.p));
-    else if (c.a.isFixed())
-        along(Held<T, Length, size>(c.a.p), Spread<T, Length>{lying(c.b, sz<T>)});
+    const Elements<T, SteppingFrom> rowsA{lying(a, Length * sz<T>)};
+    if constexpr (sources == Sources::RowsAndOneRow)
+        along(rowsA, Held<T, Length, size>(b));
+    else if constexpr (sources == Sources::RowsAndConstants)
+        along(rowsA, Spread<T, Length>{lying(b, sz<T>)});
     else
-        along(a, Spread<T, Length>{lying(c.b, sz<T>)});
+        along(Held<T, Length, size>(a), Spread<T, Length>{lying(b, sz<T>)});
 }
 
-// ---- The call -------------------------------------------------------------------------------------------------------
-
-ZEPM_INLINE bool isDense(const RowOperand& operand, ptrdiff_t size) { return operand.stride == size; }
-
-// Dense operands without a fixed one but a constant are one long row.
+// Rows before the first that starts a register of the destination, or -1 where none does.
 template <class T>
-ZEPM_INLINE bool isOneRow(const RowCall& c)
-{
-    const ptrdiff_t size = c.width * sz<T>;
-    const bool fits = c.isConstant ? c.b.isFixed() : c.count == 1 || isDense(c.b, size);
-    return !c.isList && fits && (c.count == 1 || (isDense(c.a, size) && isDense(c.d, size)));
-}
-
-// Whether dense rows may go in groups of so many.
-template <class T>
-ZEPM_INLINE bool isGrouped(const RowCall& c, ptrdiff_t groupSize)
-{
-    const ptrdiff_t size = c.width * sz<T>;
-    return !c.isList && c.count >= groupSize && isDense(c.d, size) && (c.a.isFixed() || isDense(c.a, size)) &&
-           (c.isConstant ? isDense(c.b, sz<T>) : c.b.isFixed() || isDense(c.b, size));
-}
-
-// Whether n elements are to be stored past the caches; in place they are read anyway.
-template <class T>
-[[gnu::noinline]] bool repaysStreaming(const RowCall& c, ptrdiff_t n)
-{
-    const auto sources = [&](const RowOperand& operand) { return c.count == 1 || !operand.isFixed() ? 1 : 0; };
-    return c.a.p != c.d.p && c.b.p != c.d.p && reinterpret_cast<uintptr_t>(c.d.p) % sizeof(T) == 0 &&
-           isBeyondCaches(n * sz<T>, sources(c.a) + (c.isConstant ? 0 : sources(c.b)));
-}
-template <class T>
-ZEPM_INLINE bool isStreamed(const RowCall& c, ptrdiff_t n)
-{
-    return n >= leastStreamed / sz<T> && repaysStreaming<T>(c, n);
-}
-
-template <class T, class Op>
-[[gnu::noinline]] void oneRow(Op op, const RowCall& c)
-{
-    const ptrdiff_t n = c.width * c.count;
-    char* const d = const_cast<char*>(c.d.p);
-    auto along = [&](auto b) __attribute__((always_inline))
-    {
-        isStreamed<T>(c, n) ? row<T, true>(op, c.a.p, b, d, n) : row<T>(op, c.a.p, b, d, n);
-    };
-    c.isConstant ? along(load<T>(c.b.p)) : along(c.b.p);
-}
-
-// Whether no row of the source lies where the destination does, both being dense.
-ZEPM_INLINE bool isApart(const RowOperand& source, const RowCall& c)
-{
-    return areApart(source.p, c.d.p, c.count * c.d.stride);
-}
-
-// Dense rows before the first that starts a register of the destination, or -1 where none does.
-template <class T>
-[[gnu::noinline]] ptrdiff_t rowsToAlignment(const RowCall& c)
+[[gnu::noinline]] ptrdiff_t rowsToAlignment(const char* d, ptrdiff_t rowSize)
 {
     for (ptrdiff_t k = 0; k < lanes<T>; ++k)
-        if (reinterpret_cast<uintptr_t>(c.d.p + k * c.d.stride) % registerBytes == 0) return k;
+        if (reinterpret_cast<uintptr_t>(d + k * rowSize) % registerBytes == 0) return k;
     return -1;
 }
 
-// Matrices of orders 3 to 6 are rows of 9 to 36 elements: those have groups, but odd lengths no code for single rows.
-template <int Length>
-inline constexpr int singleLength = Length > 6 && Length % 16 != 0 ? 0 : Length;
-
-// Dense rows in groups, what is left over row by row. Rows that are stored past the caches begin with the first that
-// starts a register of the destination.
-template <class T, int Length, bool isConstant, bool Streams, class Op>
-[[gnu::noinline]] void groupsInTurn(Op op, const RowCall& c)
+// Rows in groups, what is left over row by row. Rows that are stored past the caches begin with the first that starts a
+// register of the destination.
+template <class T, int Length, Sources sources, bool Streams, class Op>
+[[gnu::noinline]] void groupsInTurn(Op op, const char* a, const char* b, char* d, ptrdiff_t count)
 {
-    constexpr ptrdiff_t size = groupSize<T, Length, isConstant>();
-    const auto one = rowsOf<T, singleLength<Length>, Stepping, Op>;
-    const ptrdiff_t head = Streams ? rowsToAlignment<T>(c) : 0;
-    if (head < 0) return groupsInTurn<T, Length, isConstant, false>(op, c);
-    if (head > 0) one(op, c, 0, head);
-    const ptrdiff_t groups = (c.count - head) / size, done = head + groups * size;
-    groupsOf<T, Length, isConstant, Streams>(op, c, head, size, groups);
+    constexpr ptrdiff_t size = groupSize<T, Length, sources>();
+    const RowCall c = callOf<T, sources>(a, b, d, Length, count);
+    const ptrdiff_t head = Streams ? rowsToAlignment<T>(d, c.d.stride) : 0;
+    if (head < 0) return groupsInTurn<T, Length, sources, false>(op, a, b, d, count);
+    if (head > 0) oneByOne<T>(op, c, 0, head);
+    const ptrdiff_t groups = (count - head) / size, done = head + groups * size;
+    groupsOf<T, Length, sources, Streams>(op, a + head * c.a.toNext(), b + head * c.b.toNext(), d + head * c.d.stride,
+                                          size, groups);
     if (Streams) fenceStreams();
-    if (done < c.count) one(op, c, done, c.count - done);
+    if (done < count) oneByOne<T>(op, c, done, count - done);
 }
 
-// Dense rows, at least a group of them. What does not fill a group makes one more, the first, which the next overlaps,
-// unless the sources may lie under the destination.
-template <class T, int Length, bool isConstant, class Op>
-[[gnu::noinline]] void grouped(Op op, const RowCall& c)
+// At least a group of rows. What does not fill a group makes one more, the first, which the next overlaps, unless the
+// sources may lie under the destination.
+template <class T, int Length, Sources sources, class Op>
+[[gnu::noinline]] void grouped(Op op, const char* a, const char* b, char* d, ptrdiff_t count)
 {
-    constexpr size_t size = groupSize<T, Length, isConstant>();
-    const auto count = static_cast<size_t>(c.count);
-    const auto groups = static_cast<ptrdiff_t>(count / size), rest = static_cast<ptrdiff_t>(count % size);
-    if (rest == 0) return groupsOf<T, Length, isConstant, false>(op, c, 0, size, groups);
-    if (isApart(c.a, c) && isApart(c.b, c)) return groupsOf<T, Length, isConstant, false>(op, c, 0, rest, groups + 1);
-    groupsInTurn<T, Length, isConstant, false>(op, c);
+    constexpr size_t size = groupSize<T, Length, sources>();
+    const auto groups = static_cast<ptrdiff_t>(static_cast<size_t>(count) / size),
+               rest = static_cast<ptrdiff_t>(static_cast<size_t>(count) % size), bytes = count * (Length * sz<T>);
+    if (rest == 0) return groupsOf<T, Length, sources, false>(op, a, b, d, size, groups);
+    if (areApart(a, d, bytes) && areApart(b, d, bytes))
+        return groupsOf<T, Length, sources, false>(op, a, b, d, rest, groups + 1);
+    groupsInTurn<T, Length, sources, false>(op, a, b, d, count);
 }
 
-// Dense rows of any length that are stored past the caches.
-template <class T, class Op>
-[[gnu::noinline]] void streamRows(Op op, const RowCall& c)
+template <class T, int Length, Sources sources, class Op>
+[[gnu::noinline]] void groupedOrStreamed(Op op, const char* a, const char* b, char* d, ptrdiff_t count)
 {
-    streamCall(c, c.d.stride, [op](const RowCall& part) { rowsOf<T, 0, Stepping>(op, part, 0, part.count); });
+    repaysStreaming<T>(a, b, d, count * (Length * sz<T>), sources == Sources::OneRowAndConstants ? 0 : 1)
+        ? groupsInTurn<T, Length, sources, true>(op, a, b, d, count)
+        : grouped<T, Length, sources>(op, a, b, d, count);
 }
 
-// Which of the two, for a call that is large enough to ask: a function of its own, so that the others need not keep
-// anything across the question.
-template <class T, int Length, bool isConstant, class Op>
-[[gnu::noinline]] void groupedOrStreamed(Op op, const RowCall& c)
+template <class T, int Length, Sources sources, class Op>
+ZEPM_INLINE void rowsOfLength(Op op, const char* a, const char* b, char* d, ptrdiff_t count)
 {
-    repaysStreaming<T>(c, Length * c.count) ? groupsInTurn<T, Length, isConstant, true>(op, c)
-                                            : grouped<T, Length, isConstant>(op, c);
+    if (count < groupSize<T, Length, sources>())
+        denseOneByOne<T, sources>(op, a, b, d, Length, count);
+    else if (Length * count < leastStreamed / sz<T>)
+        grouped<T, Length, sources>(op, a, b, d, count);
+    else
+        groupedOrStreamed<T, Length, sources>(op, a, b, d, count);
 }
 
-// Dense rows in groups, if the call is one of those: whether it was.
-template <class T, int Length, bool isConstant, class Op>
-ZEPM_INLINE bool takesGroups(Op op, const RowCall& c)
+// Matrices of orders 3 to 6 are rows of 9 to 36 elements. Constants have groups for the lengths of vectors alone.
+template <class T, Sources sources, class Op>
+ZEPM_INLINE void denseRows(Op op, const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count)
 {
-    if (c.isConstant != isConstant || !isGrouped<T>(c, groupSize<T, Length, isConstant>())) return false;
-    Length* c.count < leastStreamed / sz<T> ? grouped<T, Length, isConstant>(op, c)
-                                            : groupedOrStreamed<T, Length, isConstant>(op, c);
-    return true;
-}
-
-template <class T, int Length, class Op>
-ZEPM_INLINE void rowsInOrder(Op op, const RowCall& call)
-{
-    if constexpr (Length > 0)
+    switch (width)
     {
-        if constexpr (takesConstants<Length>)
+    case 3: return rowsOfLength<T, 3, sources>(op, a, b, d, count);
+    case 4: return rowsOfLength<T, 4, sources>(op, a, b, d, count);
+    case 5: return rowsOfLength<T, 5, sources>(op, a, b, d, count);
+    case 6: return rowsOfLength<T, 6, sources>(op, a, b, d, count);
+    default: break;
+    }
+    if constexpr (!hasConstants<sources>)
+    {
+        switch (width)
         {
-            if (takesGroups<T, Length, true>(op, call)) return;
-        }
-        if constexpr (!takesConstantAlone<Op>)
-        {
-            if (takesGroups<T, Length, false>(op, call)) return;
+        case 9: return rowsOfLength<T, 9, sources>(op, a, b, d, count);
+        case 16: return rowsOfLength<T, 16, sources>(op, a, b, d, count);
+        case 25: return rowsOfLength<T, 25, sources>(op, a, b, d, count);
+        case 36: return rowsOfLength<T, 36, sources>(op, a, b, d, count);
+        default: break;
         }
     }
-    else if (const ptrdiff_t size = call.width * sz<T>; !call.isList && isDense(call.d, size) && size <= streamedChunk)
-    {
-        if (isStreamed<T>(call, call.width * call.count)) return streamRows<T>(op, call);
-    }
-    call.isList ? rowsOf<T, singleLength<Length>, Listed>(op, call, 0, call.count)
-                : rowsOf<T, singleLength<Length>, Stepping>(op, call, 0, call.count);
+    denseOneByOne<T, sources>(op, a, b, d, width, count);
+}
+
+// One row may lie anywhere.
+template <class T>
+ZEPM_INLINE bool isDense(const RowCall& c)
+{
+    const auto lies = [](const RowOperand& operand, ptrdiff_t size) {
+        return operand.isFixed() || operand.stride == size;
+    };
+    const ptrdiff_t size = c.width * sz<T>;
+    return !c.isList &&
+           (c.count == 1 || (lies(c.a, size) && lies(c.b, c.isConstant ? sz<T> : size) && c.d.stride == size));
+}
+
+ZEPM_INLINE Sources sourcesOf(const RowCall& c)
+{
+    const bool isSecondOne = c.count == 1 || c.b.isFixed();
+    if (!c.isConstant) return c.count > 1 && isSecondOne ? Sources::RowsAndOneRow : Sources::RowsAndRows;
+    return isSecondOne     ? Sources::RowsAndOneConstant
+           : c.a.isFixed() ? Sources::OneRowAndConstants
+                           : Sources::RowsAndConstants;
 }
 
 } // namespace
 
 template <class Op, class T>
-void combineRows(const RowCall& c)
+void combineDense(const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count, Sources sources)
 {
-    if (isOneRow<T>(c)) return oneRow<T>(Op{}, c);
-    // A fixed operand stands second; what is first with constants has code of its own.
-    if (c.a.isFixed() && !c.isConstant)
-        return ZEPM_LEVEL::combineRows<decltype(flipped(Op{})), T>({c.b, c.a, c.d, false, c.isList, c.width, c.count});
-    const bool hasConstants = c.isConstant && !c.b.isFixed();
-    switch (hasConstants && c.width > 6 ? 0 : c.width)
+    switch (sources)
     {
-    case 3: return rowsInOrder<T, 3>(Op{}, c);
-    case 4: return rowsInOrder<T, 4>(Op{}, c);
-    case 5: return rowsInOrder<T, 5>(Op{}, c);
-    case 6: return rowsInOrder<T, 6>(Op{}, c);
-    case 9: return rowsInOrder<T, 9>(Op{}, c);
-    case 16: return rowsInOrder<T, 16>(Op{}, c);
-    case 25: return rowsInOrder<T, 25>(Op{}, c);
-    case 36: return rowsInOrder<T, 36>(Op{}, c);
-    default: return rowsInOrder<T, 0>(Op{}, c);
+    case Sources::RowsAndRows: return oneRow<T>(Op{}, a, b, d, width * count);
+    case Sources::RowsAndOneConstant: return oneRow<T>(Op{}, a, load<T>(b), d, width * count);
+    case Sources::RowsAndConstants: return denseRows<T, Sources::RowsAndConstants>(Op{}, a, b, d, width, count);
+    case Sources::OneRowAndConstants: return denseRows<T, Sources::OneRowAndConstants>(Op{}, a, b, d, width, count);
+    case Sources::RowsAndOneRow:
+        if constexpr (!takesConstantAlone<Op>) denseRows<T, Sources::RowsAndOneRow>(Op{}, a, b, d, width, count);
     }
 }
 
+template <class Op, class T>
+void combineRows(const RowCall& c)
+{
+    if (isDense<T>(c))
+        ZEPM_LEVEL::combineDense<Op, T>(c.a.p, c.b.p, const_cast<char*>(c.d.p), c.width, c.count, sourcesOf(c));
+    else if (isStreamed<T>(c))
+        streamRows<T>(Op{}, c);
+    else
+        oneByOne<T>(Op{}, c, 0, c.count);
+}
+
+template void combineDense<Plus, float32>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<Plus, float64>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<Minus, float32>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<Minus, float64>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<MinusFrom, float32>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<MinusFrom, float64>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<Times, float32>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<Times, float64>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
 template void combineRows<Plus, float32>(const RowCall&);
 template void combineRows<Plus, float64>(const RowCall&);
 template void combineRows<Minus, float32>(const RowCall&);

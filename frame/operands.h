@@ -189,26 +189,51 @@ struct Block
     ZEPM_INLINE bool contiguous() const { return true; }
 };
 
+// The strides from object to object and from row to row, of the operands that have them. The others do not store any:
+// on short calls each store counts.
+template <bool IsArray>
+struct ObjectStride
+{
+    int32 stride0;
+};
+template <>
+struct ObjectStride<false>
+{
+    static constexpr int32 stride0 = 0;
+};
+template <int Rank>
+struct RowStride
+{
+    int32 stride1;
+};
+template <>
+struct RowStride<1>
+{
+    static constexpr int32 stride1 = 0;
+};
+
 // One base pointer; stride0 in arrays, stride1 in matrices (Rank 2).
 template <class T, bool IsArray, int Rank>
-struct StridedBlock : Block<T>
+struct StridedBlock : Block<T>, ObjectStride<IsArray>, RowStride<Rank>
 {
     static constexpr bool isArray = IsArray;
     static constexpr int rank = Rank;
     T* p;
-    int32 stride0 = 0, stride1 = 0, stride2;
+    using ObjectStride<IsArray>::stride0;
+    using RowStride<Rank>::stride1;
+    int32 stride2;
 
     ZEPM_INLINE StridedBlock(T* base, int32 s2) requires(!IsArray && Rank == 1) : p(base), stride2(s2) {}
     ZEPM_INLINE StridedBlock(T* base, int32 s0, int32 s2) requires(IsArray&& Rank == 1)
-        : p(base), stride0(s0), stride2(s2)
+        : ObjectStride<IsArray>{s0}, p(base), stride2(s2)
     {
     }
     ZEPM_INLINE StridedBlock(T* base, int32 s1, int32 s2) requires(!IsArray && Rank == 2)
-        : p(base), stride1(s1), stride2(s2)
+        : RowStride<Rank>{s1}, p(base), stride2(s2)
     {
     }
     ZEPM_INLINE StridedBlock(T* base, int32 s0, int32 s1, int32 s2) requires(IsArray&& Rank == 2)
-        : p(base), stride0(s0), stride1(s1), stride2(s2)
+        : ObjectStride<IsArray>{s0}, RowStride<Rank>{s1}, p(base), stride2(s2)
     {
     }
 
@@ -235,19 +260,21 @@ struct StridedBlock : Block<T>
 
 // A table of objects: always an array.
 template <class T, int Rank>
-struct ListBlock : Block<T>
+struct ListBlock : Block<T>, RowStride<Rank>
 {
     static constexpr bool isArray = true;
     static constexpr int rank = Rank;
     T* const* pp;
-    int32 roiShift, stride1 = 0, stride2;
+    int32 roiShift;
+    using RowStride<Rank>::stride1;
+    int32 stride2;
 
     ZEPM_INLINE ListBlock(T* const* table, int32 shift, int32 s2) requires(Rank == 1)
         : pp(table), roiShift(shift), stride2(s2)
     {
     }
     ZEPM_INLINE ListBlock(T* const* table, int32 shift, int32 s1, int32 s2) requires(Rank == 2)
-        : pp(table), roiShift(shift), stride1(s1), stride2(s2)
+        : RowStride<Rank>{s1}, pp(table), roiShift(shift), stride2(s2)
     {
     }
 
@@ -279,16 +306,17 @@ struct ListBlock : Block<T>
 
 // A table of elements, rowLength entries for each row; stride0 in arrays.
 template <class T, bool IsArray>
-struct TableBlock : Block<T>
+struct TableBlock : Block<T>, ObjectStride<IsArray>
 {
     static constexpr bool isArray = IsArray;
     T* const* pp;
-    int32 roiShift, stride0 = 0;
+    int32 roiShift;
+    using ObjectStride<IsArray>::stride0;
     ptrdiff_t shareOffset = 0; // first * stride0, which the interface's 32-bit shift could not hold
 
     ZEPM_INLINE TableBlock(T* const* table, int32 shift) requires(!IsArray) : pp(table), roiShift(shift) {}
     ZEPM_INLINE TableBlock(T* const* table, int32 shift, int32 s0) requires(IsArray)
-        : pp(table), roiShift(shift), stride0(s0)
+        : ObjectStride<IsArray>{s0}, pp(table), roiShift(shift)
     {
     }
 
