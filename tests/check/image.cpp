@@ -44,7 +44,11 @@ void Image::chooseStrides(Strides strides)
     stride0 = rows * stride1;
     switch (strides)
     {
+    case Strides::FirstGapped:
+    case Strides::SecondGapped:
+    case Strides::ThirdGapped:
     case Strides::Dense: break;
+    case Strides::ObjectsGapped: stride0 += (2 + n) * sz; break;
     case Strides::Gapped:
     case Strides::OneGeneral:
         stride1 = (cols + 1 + n) * sz;
@@ -110,6 +114,11 @@ void Image::place(int rows_, int cols_, int count_, Strides strides, Placement p
     cols = cols_;
     count = operand.isArray ? count_ : 1;
     if (strides == Strides::OneGeneral && number == (cols + count_) % 3) strides = Strides::General;
+    if (strides >= Strides::FirstGapped && strides <= Strides::ThirdGapped)
+    {
+        const bool isGapped = number == static_cast<int>(strides) - static_cast<int>(Strides::FirstGapped);
+        strides = !isGapped ? Strides::Dense : count_ % 2 == 0 ? Strides::Gapped : Strides::ObjectsGapped;
+    }
     chooseStrides(isLaid() ? strides : Strides::Dense);
     if (isTable() && strides == Strides::FarElements) stride0 = (5 + number) * sz;
     if (isTable() && strides == Strides::OneGeneral) stride0 = (4 + number) * sz;

@@ -21,9 +21,13 @@ enum class Strides
     ColumnMajor, // rows closer together than elements
     Across,      // the objects' elements side by side
     OneGeneral,  // one operand General, the others Gapped
-    Far,         // objects 2 GiB apart
-    FarGeneral,  // the same, with gaps between elements
-    FarElements  // elements 2 GiB apart
+    FirstGapped, // one operand with gaps, all of them or those behind objects alone, the others Dense
+    SecondGapped,
+    ThirdGapped,
+    ObjectsGapped, // gaps behind objects alone
+    Far,           // objects 2 GiB apart
+    FarGeneral,    // the same, with gaps between elements
+    FarElements    // elements 2 GiB apart
 };
 
 inline bool isFar(Strides strides)

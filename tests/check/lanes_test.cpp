@@ -132,6 +132,11 @@ int32 countFor(const Function& function, const std::vector<int>& sizes, int32 li
 
 const std::vector<Strides> nearStrides = {Strides::Dense,       Strides::Gapped, Strides::Records,   Strides::General,
                                           Strides::ColumnMajor, Strides::Across, Strides::OneGeneral};
+const std::vector<Strides> stridesAndMixed = [] {
+    std::vector<Strides> all = nearStrides;
+    all.insert(all.end(), {Strides::FirstGapped, Strides::SecondGapped, Strides::ThirdGapped});
+    return all;
+}();
 
 } // namespace
 
@@ -149,7 +154,7 @@ TEST_P(Lane, Values)
             const std::vector<int> counts =
                 function.isArray() ? std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 33} : std::vector<int>{1};
             for (const int count : counts)
-                for (const Strides strides : nearStrides)
+                for (const Strides strides : count == 4 || count == 33 ? stridesAndMixed : nearStrides)
                     for (const bool atEnd : {true, false})
                         if (!passes({sizes, count, strides, {atEnd, 0}, 1, -1, true})) return;
         }
