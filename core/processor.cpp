@@ -1,14 +1,15 @@
 // What the processor offers: its instruction-set level and its caches.
+#include "core/processor.h"
+
 #include "zepcore.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cpuid.h>
 #include <initializer_list>
 #include <limits>
 #include <unistd.h>
 
-namespace
+namespace zepcore
 {
 
 int32 highestCpuLevel()
@@ -23,6 +24,11 @@ int32 highestCpuLevel()
     if (__builtin_cpu_supports("avx2")) return avx512 ? 2 : 1;
     return 0;
 }
+
+} // namespace zepcore
+
+namespace
+{
 
 // The caches as the processor itself lists them. (sysconf gives the third level of some processors as the sum over the
 // package.) Read once: a virtual machine traps each cpuid.
@@ -48,20 +54,9 @@ int32 largestCacheSize()
     return static_cast<int32>(std::min(largest, limit));
 }
 
-const int32 cpuLevelMax = highestCpuLevel();
 const int32 cacheSizeMax = largestCacheSize();
-std::atomic<int32> cpuLevel{cpuLevelMax};
 
 } // namespace
-
-int32 ownGetCpuLevel(void) { return cpuLevel.load(std::memory_order_relaxed); }
-
-Status zepSetCpuLevel(int32 level)
-{
-    if (level < 0 || level > cpuLevelMax) return stsSizeErr;
-    cpuLevel = level;
-    return stsOk;
-}
 
 Status zepGetMaxCacheSizeB(int32* pSizeByte)
 {

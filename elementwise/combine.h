@@ -147,32 +147,63 @@ inline constexpr Sources sourcesOf = isConstantBlock<B>          ? (!B::isArray 
                                      : A::isArray && !B::isArray ? Sources::RowsAndOneRow
                                                                  : Sources::RowsAndRows;
 
-// Objects with contiguous rows, a and b being the sources in the order of op.
-template <class Op, class X, class A, class B>
-ZEPM_INLINE void combineContiguous(Op, const X& x, const A& a, const B& b)
+// Calls f(op, x, a, b) with the sources of x. Where one source alone is transposed, it stands first; where one row
+// serves all objects, it stands second. Captures of f would hold x in memory.
+template <class Op, class X, class F>
+ZEPM_INLINE auto inTheirOrder(Op op, const X& x, F f)
 {
-    using Dst = decltype(x.dst);
-    using T = typename Dst::Element;
-    constexpr bool isTransposedA = isTransposedBlock<A>, isTransposedB = isTransposedBlock<B>;
-    constexpr bool isList = isListBlock<Dst>;
-    const int32 level = ownGetCpuLevel();
-    const RowOperand rowsA = rowsOf(a), rowsB = rowsOf(b), rowsD = rowsOf(x.dst);
-    if constexpr (!isTransposedA && !isTransposedB && !isList)
-    {
-        if (liesDense(a, x) && liesDense(b, x) && liesDense(x.dst, x))
-            return combineDense<Op, T>(level, rowsA.p, rowsB.p, bytes(x.dst.p),
-                                       static_cast<ptrdiff_t>(x.width) * x.height, x.count, sourcesOf<A, B>);
-    }
-    if constexpr (X::rank == 1)
-        combineRows<Op, T>(level, {rowsA, rowsB, rowsD, isConstantBlock<B>, isList, x.width, x.count});
+    using Src1 = decltype(x.src1);
+    using Src2 = decltype(x.src2);
+    constexpr bool isTransposedA = isTransposedBlock<Src1>, isTransposedB = isTransposedBlock<Src2>;
+    constexpr bool isFirstOneRow = !Src1::isArray && Src2::isArray && !isConstantBlock<Src2> && !isTransposedA;
+    if constexpr ((isTransposedB && !isTransposedA) || isFirstOneRow)
+        return f(flipped(op), x, x.src2, x.src1);
     else
-        combineMatrices<Op, T>(level, {{rowsA, rowsB, rowsD, isConstantBlock<B>, isList, x.width, x.count},
-                                       x.height,
-                                       rowStrideOf(a),
-                                       rowStrideOf(b),
-                                       rowStrideOf(x.dst),
-                                       isTransposedA,
-                                       isTransposedB});
+        return f(op, x, x.src1, x.src2);
+}
+
+// Objects without gaps, or false. It takes what it needs from x by value.
+template <class Op, class X>
+ZEPM_INLINE bool combineIfDense(Op op, const X& call)
+{
+    return inTheirOrder(
+        op, call, [](auto inOrder, const X& x, auto a, auto b) __attribute__((always_inline)) {
+            using A = decltype(a);
+            using B = decltype(b);
+            using Dst = decltype(x.dst);
+            if constexpr (!isTransposedBlock<A> && !isTransposedBlock<B> && !isListBlock<Dst>)
+            {
+                if (liesDense(a, x) && liesDense(b, x) && liesDense(x.dst, x))
+                {
+                    combineDense<decltype(inOrder), typename Dst::Element>(rowsOf(a).p, rowsOf(b).p, bytes(x.dst.p),
+                                                                           static_cast<ptrdiff_t>(x.width) * x.height,
+                                                                           x.count, sourcesOf<A, B>);
+                    return true;
+                }
+            }
+            return false;
+        });
+}
+
+// Objects with contiguous rows.
+template <class Op, class X>
+ZEPM_INLINE void combineContiguous(Op op, const X& call)
+{
+    inTheirOrder(
+        op, call, [](auto inOrder, const X& x, const auto& a, const auto& b) __attribute__((always_inline)) {
+            using A = std::remove_cvref_t<decltype(a)>;
+            using B = std::remove_cvref_t<decltype(b)>;
+            using Dst = decltype(x.dst);
+            using InOrder = decltype(inOrder);
+            const RowCall rows{rowsOf(a),        rowsOf(b), rowsOf(x.dst), isConstantBlock<B>,
+                               isListBlock<Dst>, x.width,   x.count};
+            if constexpr (X::rank == 1)
+                combineRows<InOrder, typename Dst::Element>(rows);
+            else
+                combineMatrices<InOrder, typename Dst::Element>({rows, x.height, rowStrideOf(a), rowStrideOf(b),
+                                                                 rowStrideOf(x.dst), isTransposedBlock<A>,
+                                                                 isTransposedBlock<B>});
+        });
 }
 
 // ---- Elements side by side ------------------------------------------------------------------------------------------
@@ -204,16 +235,15 @@ ZEPM_INLINE void combineAcross(Op op, const X& x)
     constexpr bool flips = !decltype(x.src1)::isArray;
     constexpr Sources sources =
         flips || !decltype(x.src2)::isArray ? Sources::RowsAndOneConstant : Sources::RowsAndRows;
-    const int32 level = ownGetCpuLevel();
     for (int32 i = 0; i < x.height; ++i)
         for (int32 j = 0; j < x.width; ++j)
         {
             const char *const a = rowAcross(x.src1, x, i, j), *const b = rowAcross(x.src2, x, i, j);
             char* const d = rowAcross(x.dst, x, i, j);
             if constexpr (flips)
-                combineDense<decltype(flipped(op)), T>(level, b, a, d, x.count, 1, sources);
+                combineDense<decltype(flipped(op)), T>(b, a, d, x.count, 1, sources);
             else
-                combineDense<Op, T>(level, a, b, d, x.count, 1, sources);
+                combineDense<Op, T>(a, b, d, x.count, 1, sources);
         }
 }
 
@@ -252,8 +282,7 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
     bool isApart = x.width > 6 && apart(a);
     if constexpr (!isConstant) isApart = isApart && apart(b);
     if (isApart)
-        combineDense<Op, T>(ownGetCpuLevel(), a, rowsOf(x.src2).p, d, x.width, 1,
-                            sourcesOf<decltype(x.src1), decltype(x.src2)>);
+        combineDense<Op, T>(a, rowsOf(x.src2).p, d, x.width, 1, sourcesOf<decltype(x.src1), decltype(x.src2)>);
     else
         combineObject(op, viewOf<true>(x.src1, x).object(0), viewOf<true>(x.src2, x).object(0),
                       viewOf<true>(x.dst, x).object(0), x.width, 1);
@@ -263,17 +292,10 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
 template <class Op, class X>
 ZEPM_INLINE Status combinePacked(Op op, const X& x)
 {
-    using Src1 = decltype(x.src1);
-    using Src2 = decltype(x.src2);
-    // Where one source alone is transposed, it stands first; where one row serves all objects, it stands second.
-    constexpr bool isTransposedA = isTransposedBlock<Src1>, isTransposedB = isTransposedBlock<Src2>;
-    constexpr bool isFirstOneRow = !Src1::isArray && Src2::isArray && !isConstantBlock<Src2> && !isTransposedA;
     if constexpr (X::rank == 1 && !decltype(x.dst)::isArray)
         combineVector(op, x);
-    else if constexpr ((isTransposedB && !isTransposedA) || isFirstOneRow)
-        combineContiguous(flipped(op), x, x.src2, x.src1);
-    else
-        combineContiguous(op, x, x.src1, x.src2);
+    else if (!combineIfDense(op, x))
+        combineContiguous(op, x);
     return stsOk;
 }
 
@@ -313,6 +335,32 @@ ZEPM_INLINE Status forEachObject(const X& x, Status (*kernel)(const One&))
             kernel({x.src1.object(k), x.src2.object(k), x.dst.object(k), x.width, x.height});
     }
     return stsOk;
+}
+
+// ---- The way in -----------------------------------------------------------------------------------------------------
+
+// A kernel or driver that is given a copy of x, so that x itself is never stored.
+template <class X>
+struct OnCopy
+{
+    Kernel<X> path;
+    ZEPM_INLINE Status operator()(const X& x) const
+    {
+        const X copy = x;
+        return path(copy);
+    }
+};
+
+// As enter, but a serial call on operands without gaps does not come to a kernel: their strides need no check, and they
+// go where the work is done in registers. Results are stored one a cycle, so that storing an argument struct would
+// tell; x stays in registers, provided that the caller has not made it const.
+template <class Op, class X, class Order, class Limits>
+ZEPM_INLINE Status enterDense(Op op, const X& x, Order steps, Limits limits, Kernel<X> packed, Kernel<X> general,
+                              Kernel<X> driver)
+{
+    using Sound = order<Pointers, Sizes, Count>;
+    if (x.isPacked() && Sound::check(x) == stsOk && !isHeavy<Limits::packed>(x) && combineIfDense(op, x)) return stsOk;
+    return enter(x, steps, limits, OnCopy<X>{packed}, OnCopy<X>{general}, OnCopy<X>{driver});
 }
 
 } // namespace zepm

@@ -63,28 +63,25 @@ ZEPM_DECLARE_LEVEL(avx2)
 ZEPM_DECLARE_LEVEL(avx512)
 #undef ZEPM_DECLARE_LEVEL
 
-// The level is the one in force, which the caller asks for before it has anything to keep meanwhile.
-
 // Rows of which each begins where the one before ends, constants likewise. All in registers: the results are stored one
 // a cycle, so that a struct to pass would delay them.
 template <class Op, class T>
-ZEPM_INLINE void combineDense(int32 level, const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count,
-                              Sources sources)
+ZEPM_INLINE void combineDense(const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count, Sources sources)
 {
-    atLevel(level, ssse3::combineDense<Op, T>, avx2::combineDense<Op, T>, avx512::combineDense<Op, T>)(a, b, d, width,
-                                                                                                       count, sources);
+    atLevel(ssse3::combineDense<Op, T>, avx2::combineDense<Op, T>, avx512::combineDense<Op, T>)(a, b, d, width, count,
+                                                                                                sources);
 }
 
 template <class Op, class T>
-ZEPM_INLINE void combineRows(int32 level, const RowCall& call)
+ZEPM_INLINE void combineRows(const RowCall& call)
 {
-    atLevel(level, ssse3::combineRows<Op, T>, avx2::combineRows<Op, T>, avx512::combineRows<Op, T>)(call);
+    atLevel(ssse3::combineRows<Op, T>, avx2::combineRows<Op, T>, avx512::combineRows<Op, T>)(call);
 }
 
 template <class Op, class T>
-ZEPM_INLINE void combineMatrices(int32 level, MatrixCall call)
+ZEPM_INLINE void combineMatrices(MatrixCall call)
 {
-    atLevel(level, ssse3::combineMatrices<Op, T>, avx2::combineMatrices<Op, T>, avx512::combineMatrices<Op, T>)(call);
+    atLevel(ssse3::combineMatrices<Op, T>, avx2::combineMatrices<Op, T>, avx512::combineMatrices<Op, T>)(call);
 }
 
 } // namespace zepm

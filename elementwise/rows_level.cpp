@@ -461,7 +461,7 @@ ZEPM_INLINE bool isDense(const RowCall& c)
            (c.count == 1 || (lies(c.a, size) && lies(c.b, c.isConstant ? sz<T> : size) && c.d.stride == size));
 }
 
-ZEPM_INLINE Sources sourcesOf(const RowCall& c)
+ZEPM_INLINE Sources sourcesIn(const RowCall& c)
 {
     const bool isSecondOne = c.count == 1 || c.b.isFixed();
     if (!c.isConstant) return c.count > 1 && isSecondOne ? Sources::RowsAndOneRow : Sources::RowsAndRows;
@@ -490,7 +490,7 @@ template <class Op, class T>
 void combineRows(const RowCall& c)
 {
     if (isDense<T>(c))
-        ZEPM_LEVEL::combineDense<Op, T>(c.a.p, c.b.p, const_cast<char*>(c.d.p), c.width, c.count, sourcesOf(c));
+        ZEPM_LEVEL::combineDense<Op, T>(c.a.p, c.b.p, const_cast<char*>(c.d.p), c.width, c.count, sourcesIn(c));
     else if (isStreamed<T>(c))
         streamRows<T>(Op{}, c);
     else

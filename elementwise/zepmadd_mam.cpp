@@ -25,15 +25,15 @@ Status zepmAdd_mam_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Stride
                        const float32* pSrc2, int32 src2Stride1, int32 src2Stride2, float32* pDst, int32 dstStride0,
                        int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mam<float32, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
-                            {pSrc2, src2Stride1, src2Stride2},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    Mam<float32, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
+                      {pSrc2, src2Stride1, src2Stride2},
+                      {pDst, dstStride0, dstStride1, dstStride2},
+                      width,
+                      height,
+                      count};
     // The strides before the sizes.
-    return enter(x, order<Pointers, Count, Strides, Sizes>{}, parallelFrom<3000, 2000>{}, ownAdd_mam_32f_Packed,
-                 ownAdd_mam_32f_Strided, ownOMP_zepmAdd_mam_32f);
+    return enterDense(Plus{}, x, order<Pointers, Count, Strides, Sizes>{}, parallelFrom<3000, 2000>{},
+                      ownAdd_mam_32f_Packed, ownAdd_mam_32f_Strided, ownOMP_zepmAdd_mam_32f);
 }
 
 Status zepmAdd_mam_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int32 src1Stride1, int32 src1Stride2,
@@ -68,15 +68,15 @@ Status zepmAdd_mam_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Stride
                        const float64* pSrc2, int32 src2Stride1, int32 src2Stride2, float64* pDst, int32 dstStride0,
                        int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mam<float64, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
-                            {pSrc2, src2Stride1, src2Stride2},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    Mam<float64, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
+                      {pSrc2, src2Stride1, src2Stride2},
+                      {pDst, dstStride0, dstStride1, dstStride2},
+                      width,
+                      height,
+                      count};
     // The strides before the sizes.
-    return enter(x, order<Pointers, Count, Strides, Sizes>{}, parallelFrom<2000>{}, ownAdd_mam_64f_Packed,
-                 ownAdd_mam_64f_Strided, ownOMP_zepmAdd_mam_64f);
+    return enterDense(Plus{}, x, order<Pointers, Count, Strides, Sizes>{}, parallelFrom<2000>{}, ownAdd_mam_64f_Packed,
+                      ownAdd_mam_64f_Strided, ownOMP_zepmAdd_mam_64f);
 }
 
 Status zepmAdd_mam_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int32 src1Stride1, int32 src1Stride2,

@@ -24,9 +24,9 @@ using namespace zepm;
 Status zepmAdd_vac_32f(const float32* pSrc, int32 srcStride0, int32 srcStride2, float32 val, float32* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vac<float32, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownAdd_vac_32f_Packed,
-                 ownAdd_vac_32f_Strided, ownOMP_zepmAdd_vac_32f);
+    Vac<float32, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(Plus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownAdd_vac_32f_Packed,
+                      ownAdd_vac_32f_Strided, ownOMP_zepmAdd_vac_32f);
 }
 
 Status zepmAdd_vac_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 srcStride2, float32 val,
@@ -48,9 +48,9 @@ Status zepmAdd_vac_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 s
 Status zepmAdd_vac_64f(const float64* pSrc, int32 srcStride0, int32 srcStride2, float64 val, float64* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vac<float64, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownAdd_vac_64f_Packed,
-                 ownAdd_vac_64f_Strided, ownOMP_zepmAdd_vac_64f);
+    Vac<float64, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(Plus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownAdd_vac_64f_Packed,
+                      ownAdd_vac_64f_Strided, ownOMP_zepmAdd_vac_64f);
 }
 
 Status zepmAdd_vac_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride2, float64 val,

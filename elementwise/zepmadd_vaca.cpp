@@ -24,10 +24,9 @@ using namespace zepm;
 Status zepmAdd_vaca_32f(const float32* pSrc, int32 srcStride0, int32 srcStride2, const float32* pVal, int32 valStride0,
                         float32* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vaca<float32, S> x{
-        {pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownAdd_vaca_32f_Packed,
-                 ownAdd_vaca_32f_Strided, ownOMP_zepmAdd_vaca_32f);
+    Vaca<float32, S> x{{pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(Plus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownAdd_vaca_32f_Packed,
+                      ownAdd_vaca_32f_Strided, ownOMP_zepmAdd_vaca_32f);
 }
 
 Status zepmAdd_vaca_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 srcStride2, const float32* const* ppVal,
@@ -55,10 +54,9 @@ Status zepmAdd_vaca_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 
 Status zepmAdd_vaca_64f(const float64* pSrc, int32 srcStride0, int32 srcStride2, const float64* pVal, int32 valStride0,
                         float64* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vaca<float64, S> x{
-        {pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownAdd_vaca_64f_Packed,
-                 ownAdd_vaca_64f_Strided, ownOMP_zepmAdd_vaca_64f);
+    Vaca<float64, S> x{{pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(Plus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownAdd_vaca_64f_Packed,
+                      ownAdd_vaca_64f_Strided, ownOMP_zepmAdd_vaca_64f);
 }
 
 Status zepmAdd_vaca_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride2, const float64* const* ppVal,

@@ -24,9 +24,9 @@ using namespace zepm;
 Status zepmAdd_vca_32f(const float32* pSrc, int32 srcStride2, const float32* pVal, int32 valStride0, float32* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vca<float32, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownAdd_vca_32f_Packed,
-                 ownAdd_vca_32f_Strided, ownOMP_zepmAdd_vca_32f);
+    Vca<float32, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(Plus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownAdd_vca_32f_Packed,
+                      ownAdd_vca_32f_Strided, ownOMP_zepmAdd_vca_32f);
 }
 
 Status zepmAdd_vca_32f_L(const float32* pSrc, int32 srcStride2, const float32* const* ppVal, int32 valRoiShift,
@@ -48,9 +48,9 @@ Status zepmAdd_vca_32f_P(const float32* const* ppSrc, int32 srcRoiShift, const f
 Status zepmAdd_vca_64f(const float64* pSrc, int32 srcStride2, const float64* pVal, int32 valStride0, float64* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vca<float64, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownAdd_vca_64f_Packed,
-                 ownAdd_vca_64f_Strided, ownOMP_zepmAdd_vca_64f);
+    Vca<float64, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(Plus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownAdd_vca_64f_Packed,
+                      ownAdd_vca_64f_Strided, ownOMP_zepmAdd_vca_64f);
 }
 
 Status zepmAdd_vca_64f_L(const float64* pSrc, int32 srcStride2, const float64* const* ppVal, int32 valRoiShift,

@@ -25,14 +25,14 @@ Status zepmMul_mac_32f(const float32* pSrc, int32 srcStride0, int32 srcStride1, 
                        float32* pDst, int32 dstStride0, int32 dstStride1, int32 dstStride2, int32 width, int32 height,
                        int32 count)
 {
-    const Mac<float32, S> x{{pSrc, srcStride0, srcStride1, srcStride2},
-                            {val},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3501>{}, ownMul_mac_32f_Packed,
-                 ownMul_mac_32f_Strided, ownOMP_zepmMul_mac_32f);
+    Mac<float32, S> x{{pSrc, srcStride0, srcStride1, srcStride2},
+                      {val},
+                      {pDst, dstStride0, dstStride1, dstStride2},
+                      width,
+                      height,
+                      count};
+    return enterDense(Times{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3501>{}, ownMul_mac_32f_Packed,
+                      ownMul_mac_32f_Strided, ownOMP_zepmMul_mac_32f);
 }
 
 Status zepmMul_mac_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 srcStride1, int32 srcStride2,
@@ -63,14 +63,14 @@ Status zepmMul_mac_64f(const float64* pSrc, int32 srcStride0, int32 srcStride1, 
                        float64* pDst, int32 dstStride0, int32 dstStride1, int32 dstStride2, int32 width, int32 height,
                        int32 count)
 {
-    const Mac<float64, S> x{{pSrc, srcStride0, srcStride1, srcStride2},
-                            {val},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3501>{}, ownMul_mac_64f_Packed,
-                 ownMul_mac_64f_Strided, ownOMP_zepmMul_mac_64f);
+    Mac<float64, S> x{{pSrc, srcStride0, srcStride1, srcStride2},
+                      {val},
+                      {pDst, dstStride0, dstStride1, dstStride2},
+                      width,
+                      height,
+                      count};
+    return enterDense(Times{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3501>{}, ownMul_mac_64f_Packed,
+                      ownMul_mac_64f_Strided, ownOMP_zepmMul_mac_64f);
 }
 
 Status zepmMul_mac_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride1, int32 srcStride2,

@@ -24,9 +24,9 @@ using namespace zepm;
 Status zepmMul_vac_32f(const float32* pSrc, int32 srcStride0, int32 srcStride2, float32 val, float32* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const MulVac<float32, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2501, 1441>{}, ownMul_vac_32f_Packed,
-                 ownMul_vac_32f_Strided, ownOMP_zepmMul_vac_32f);
+    MulVac<float32, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(Times{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2501, 1441>{},
+                      ownMul_vac_32f_Packed, ownMul_vac_32f_Strided, ownOMP_zepmMul_vac_32f);
 }
 
 Status zepmMul_vac_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 srcStride2, float32 val,
@@ -48,9 +48,9 @@ Status zepmMul_vac_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 s
 Status zepmMul_vac_64f(const float64* pSrc, int32 srcStride0, int32 srcStride2, float64 val, float64* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const MulVac<float64, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3601, 1441>{}, ownMul_vac_64f_Packed,
-                 ownMul_vac_64f_Strided, ownOMP_zepmMul_vac_64f);
+    MulVac<float64, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(Times{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3601, 1441>{},
+                      ownMul_vac_64f_Packed, ownMul_vac_64f_Strided, ownOMP_zepmMul_vac_64f);
 }
 
 Status zepmMul_vac_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride2, float64 val,

@@ -36,9 +36,9 @@ using namespace zepm;
 Status zepmSub_cav_32f(const float32* pSrc, int32 srcStride2, const float32* pVal, int32 valStride0, float32* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vca<float32, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownSub_cav_32f_Packed,
-                 ownSub_cav_32f_Strided, ownOMP_zepmSub_cav_32f);
+    Vca<float32, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(MinusFrom{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{},
+                      ownSub_cav_32f_Packed, ownSub_cav_32f_Strided, ownOMP_zepmSub_cav_32f);
 }
 
 Status zepmSub_cav_32f_L(const float32* pSrc, int32 srcStride2, const float32* const* ppVal, int32 valRoiShift,
@@ -61,9 +61,9 @@ Status zepmSub_cav_32f_P(const float32* const* ppSrc, int32 srcRoiShift, const f
 Status zepmSub_cav_64f(const float64* pSrc, int32 srcStride2, const float64* pVal, int32 valStride0, float64* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vca<float64, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownSub_cav_64f_Packed,
-                 ownSub_cav_64f_Strided, ownOMP_zepmSub_cav_64f);
+    Vca<float64, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(MinusFrom{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{},
+                      ownSub_cav_64f_Packed, ownSub_cav_64f_Strided, ownOMP_zepmSub_cav_64f);
 }
 
 Status zepmSub_cav_64f_L(const float64* pSrc, int32 srcStride2, const float64* const* ppVal, int32 valRoiShift,

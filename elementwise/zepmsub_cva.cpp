@@ -25,9 +25,9 @@ using namespace zepm;
 Status zepmSub_cva_32f(const float32* pSrc, int32 srcStride0, int32 srcStride2, float32 val, float32* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Cva<float32, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4800>{}, ownSub_cva_32f_Packed,
-                 ownSub_cva_32f_Strided, ownOMP_zepmSub_cva_32f);
+    Cva<float32, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(MinusFrom{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4800>{},
+                      ownSub_cva_32f_Packed, ownSub_cva_32f_Strided, ownOMP_zepmSub_cva_32f);
 }
 
 Status zepmSub_cva_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 srcStride2, float32 val,
@@ -49,9 +49,9 @@ Status zepmSub_cva_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 s
 Status zepmSub_cva_64f(const float64* pSrc, int32 srcStride0, int32 srcStride2, float64 val, float64* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Cva<float64, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1400>{}, ownSub_cva_64f_Packed,
-                 ownSub_cva_64f_Strided, ownOMP_zepmSub_cva_64f);
+    Cva<float64, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
+    return enterDense(MinusFrom{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1400>{},
+                      ownSub_cva_64f_Packed, ownSub_cva_64f_Strided, ownOMP_zepmSub_cva_64f);
 }
 
 Status zepmSub_cva_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride2, float64 val,

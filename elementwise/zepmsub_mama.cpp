@@ -25,14 +25,14 @@ Status zepmSub_mama_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Strid
                         const float32* pSrc2, int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float32* pDst,
                         int32 dstStride0, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mama<float32, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
-                             {pSrc2, src2Stride0, src2Stride1, src2Stride2},
-                             {pDst, dstStride0, dstStride1, dstStride2},
-                             width,
-                             height,
-                             count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3000, 2000>{}, ownSub_mama_32f_Packed,
-                 ownSub_mama_32f_Strided, ownOMP_zepmSub_mama_32f);
+    Mama<float32, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
+                       {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                       {pDst, dstStride0, dstStride1, dstStride2},
+                       width,
+                       height,
+                       count};
+    return enterDense(Minus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3000, 2000>{},
+                      ownSub_mama_32f_Packed, ownSub_mama_32f_Strided, ownOMP_zepmSub_mama_32f);
 }
 
 Status zepmSub_mama_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int32 src1Stride1, int32 src1Stride2,
@@ -68,14 +68,14 @@ Status zepmSub_mama_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Strid
                         const float64* pSrc2, int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float64* pDst,
                         int32 dstStride0, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mama<float64, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
-                             {pSrc2, src2Stride0, src2Stride1, src2Stride2},
-                             {pDst, dstStride0, dstStride1, dstStride2},
-                             width,
-                             height,
-                             count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2000>{}, ownSub_mama_64f_Packed,
-                 ownSub_mama_64f_Strided, ownOMP_zepmSub_mama_64f);
+    Mama<float64, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
+                       {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                       {pDst, dstStride0, dstStride1, dstStride2},
+                       width,
+                       height,
+                       count};
+    return enterDense(Minus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2000>{},
+                      ownSub_mama_64f_Packed, ownSub_mama_64f_Strided, ownOMP_zepmSub_mama_64f);
 }
 
 Status zepmSub_mama_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int32 src1Stride1, int32 src1Stride2,

@@ -25,10 +25,10 @@ using namespace zepm;
 Status zepmSub_vav_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Stride2, const float32* pSrc2,
                        int32 src2Stride2, float32* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vav<float32, S> x{
+    Vav<float32, S> x{
         {pSrc1, src1Stride0, src1Stride2}, {pSrc2, src2Stride2}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Sizes, Strides, Count>{}, parallelFrom<4801>{}, ownSub_vav_32f_Packed,
-                 ownSub_vav_32f_Strided, ownOMP_zepmSub_vav_32f);
+    return enterDense(Minus{}, x, order<Pointers, Sizes, Strides, Count>{}, parallelFrom<4801>{}, ownSub_vav_32f_Packed,
+                      ownSub_vav_32f_Strided, ownOMP_zepmSub_vav_32f);
 }
 
 Status zepmSub_vav_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int32 src1Stride2, const float32* pSrc2,
@@ -54,10 +54,10 @@ Status zepmSub_vav_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int32
 Status zepmSub_vav_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Stride2, const float64* pSrc2,
                        int32 src2Stride2, float64* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vav<float64, S> x{
+    Vav<float64, S> x{
         {pSrc1, src1Stride0, src1Stride2}, {pSrc2, src2Stride2}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Sizes, Strides, Count>{}, parallelFrom<1401>{}, ownSub_vav_64f_Packed,
-                 ownSub_vav_64f_Strided, ownOMP_zepmSub_vav_64f);
+    return enterDense(Minus{}, x, order<Pointers, Sizes, Strides, Count>{}, parallelFrom<1401>{}, ownSub_vav_64f_Packed,
+                      ownSub_vav_64f_Strided, ownOMP_zepmSub_vav_64f);
 }
 
 Status zepmSub_vav_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int32 src1Stride2, const float64* pSrc2,

@@ -25,13 +25,13 @@ Status zepmSub_vava_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Strid
                         int32 src2Stride0, int32 src2Stride2, float32* pDst, int32 dstStride0, int32 dstStride2,
                         int32 len, int32 count)
 {
-    const Vava<float32, S> x{{pSrc1, src1Stride0, src1Stride2},
-                             {pSrc2, src2Stride0, src2Stride2},
-                             {pDst, dstStride0, dstStride2},
-                             len,
-                             count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownSub_vava_32f_Packed,
-                 ownSub_vava_32f_Strided, ownOMP_zepmSub_vava_32f);
+    Vava<float32, S> x{{pSrc1, src1Stride0, src1Stride2},
+                       {pSrc2, src2Stride0, src2Stride2},
+                       {pDst, dstStride0, dstStride2},
+                       len,
+                       count};
+    return enterDense(Minus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{},
+                      ownSub_vava_32f_Packed, ownSub_vava_32f_Strided, ownOMP_zepmSub_vava_32f);
 }
 
 Status zepmSub_vava_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int32 src1Stride2,
@@ -64,13 +64,13 @@ Status zepmSub_vava_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Strid
                         int32 src2Stride0, int32 src2Stride2, float64* pDst, int32 dstStride0, int32 dstStride2,
                         int32 len, int32 count)
 {
-    const Vava<float64, S> x{{pSrc1, src1Stride0, src1Stride2},
-                             {pSrc2, src2Stride0, src2Stride2},
-                             {pDst, dstStride0, dstStride2},
-                             len,
-                             count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownSub_vava_64f_Packed,
-                 ownSub_vava_64f_Strided, ownOMP_zepmSub_vava_64f);
+    Vava<float64, S> x{{pSrc1, src1Stride0, src1Stride2},
+                       {pSrc2, src2Stride0, src2Stride2},
+                       {pDst, dstStride0, dstStride2},
+                       len,
+                       count};
+    return enterDense(Minus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{},
+                      ownSub_vava_64f_Packed, ownSub_vava_64f_Strided, ownOMP_zepmSub_vava_64f);
 }
 
 Status zepmSub_vava_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int32 src1Stride2,

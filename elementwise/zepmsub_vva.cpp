@@ -24,10 +24,10 @@ using namespace zepm;
 Status zepmSub_vva_32f(const float32* pSrc1, int32 src1Stride2, const float32* pSrc2, int32 src2Stride0,
                        int32 src2Stride2, float32* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vva<float32, S> x{
+    Vva<float32, S> x{
         {pSrc1, src1Stride2}, {pSrc2, src2Stride0, src2Stride2}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownSub_vva_32f_Packed,
-                 ownSub_vva_32f_Strided, ownOMP_zepmSub_vva_32f);
+    return enterDense(Minus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownSub_vva_32f_Packed,
+                      ownSub_vva_32f_Strided, ownOMP_zepmSub_vva_32f);
 }
 
 Status zepmSub_vva_32f_L(const float32* pSrc1, int32 src1Stride2, const float32* const* ppSrc2, int32 src2RoiShift,
@@ -53,10 +53,10 @@ Status zepmSub_vva_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, const
 Status zepmSub_vva_64f(const float64* pSrc1, int32 src1Stride2, const float64* pSrc2, int32 src2Stride0,
                        int32 src2Stride2, float64* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    const Vva<float64, S> x{
+    Vva<float64, S> x{
         {pSrc1, src1Stride2}, {pSrc2, src2Stride0, src2Stride2}, {pDst, dstStride0, dstStride2}, len, count};
-    return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownSub_vva_64f_Packed,
-                 ownSub_vva_64f_Strided, ownOMP_zepmSub_vva_64f);
+    return enterDense(Minus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownSub_vva_64f_Packed,
+                      ownSub_vva_64f_Strided, ownOMP_zepmSub_vva_64f);
 }
 
 Status zepmSub_vva_64f_L(const float64* pSrc1, int32 src1Stride2, const float64* const* ppSrc2, int32 src2RoiShift,

@@ -2,10 +2,11 @@
 // packed and the general kernel, and the limit above which the driver takes the call.
 //
 // An argument struct X gives operands(f), which calls f with each of its blocks in turn and says whether f was true of
-// all; sizesValid(); isPacked(); in arrays count and estimate(); where sizes must fit each other sizesMatch().
+// all; sizesValid(); isPacked(); in arrays count and estimate(); where sizes must fit each other sizesMatch();
+// lightWork where a call may cost less than a fork.
 #pragma once
 
-#include "frame/operands.h"
+#include "frame/settings.h"
 
 namespace zepm
 {
@@ -119,13 +120,30 @@ struct parallelFrom
 template <class X>
 using Kernel = Status (*)(const X&);
 
-// Arrays in S and L.
-template <class X, class Order, class Limits>
-ZEPM_INLINE Status enter(const X& x, Order, Limits, Kernel<X> packed, Kernel<X> general, Kernel<X> driver)
+template <class X>
+concept LightWork = requires
+{
+    requires X::lightWork;
+};
+
+// Whether a call is the driver's. One that may cost less than a fork is not below the least work that repays it.
+template <int32 Limit, class X>
+ZEPM_INLINE bool isHeavy(const X& x)
+{
+    const int32 work = x.estimate();
+    if constexpr (LightWork<X>)
+        return work >= Limit && work >= minParallelWork();
+    else
+        return work >= Limit;
+}
+
+// Arrays in S and L. A path is a Kernel<X> or does what one does.
+template <class X, class Order, class Limits, class Path>
+ZEPM_INLINE Status enter(const X& x, Order, Limits, Path packed, Path general, Path driver)
 {
     if (const Status invalid = Order::check(x)) return invalid;
-    if (x.isPacked()) return x.estimate() >= Limits::packed ? driver(x) : packed(x);
-    return x.estimate() >= Limits::general ? driver(x) : general(x);
+    if (x.isPacked()) return isHeavy<Limits::packed>(x) ? driver(x) : packed(x);
+    return isHeavy<Limits::general>(x) ? driver(x) : general(x);
 }
 
 // Arrays in P, and families with one kernel.
@@ -133,7 +151,7 @@ template <class X, class Order, class Limits>
 ZEPM_INLINE Status enter(const X& x, Order, Limits, Kernel<X> kernel, Kernel<X> driver)
 {
     if (const Status invalid = Order::check(x)) return invalid;
-    return x.estimate() >= Limits::general ? driver(x) : kernel(x);
+    return isHeavy<Limits::general>(x) ? driver(x) : kernel(x);
 }
 
 // Forms that are always serial.

@@ -3,7 +3,6 @@
 // A driver stays serial with one thread or with fewer objects than threads. An argument struct X gives share(first, n),
 // the same call on objects first to first + n - 1, and where they apply:
 //
-//   lightWork             the call may cost less than a fork: serial below ownGetMinParallelWork as well
 //   canFail               the kernel's status counts: the first one not stsOk that a thread brings stands
 //   scratchPerThread()    bytes that a kernel needs at pBuffer; the caller's buffer serves one thread only
 #pragma once
@@ -29,11 +28,6 @@ inline Share shareOf(int32 tid, int32 quotient, int32 remainder)
     return {(tid - remainder) * quotient + remainder * (quotient + 1), quotient};
 }
 
-template <class X>
-concept LightWork = requires
-{
-    requires X::lightWork;
-};
 template <class X>
 concept CanFail = requires
 {
@@ -79,20 +73,9 @@ Status forkShares(const X& x, Kernel<X> kernel, int32 numThreads, [[maybe_unused
     return status;
 }
 
-// Asked before anything is worked out that a serial call would have to keep meanwhile.
-template <class X>
-ZEPM_INLINE bool isTooLight(const X& x)
-{
-    if constexpr (LightWork<X>)
-        return ownGetMinParallelWork() > x.estimate();
-    else
-        return false;
-}
-
 template <class X>
 Status shareObjects(const X& x, Kernel<X> kernel)
 {
-    if (isTooLight(x)) return kernel(x);
     const int32 numThreads = ownGetNumThreads();
     if (numThreads <= 1 || x.count < numThreads) return kernel(x);
     if constexpr (NeedsScratch<X>)

@@ -44,6 +44,15 @@ int32 ownGetMinParallelWork(void);
  * setting is then unchanged. */
 Status zepSetMinParallelWork(int32 elements);
 
+/* The settings as they stand, for what reads them so often that a call would tell: read a member with a relaxed atomic
+ * load. The address stays the same and is valid for as long as the process runs. */
+typedef struct OwnSettings
+{
+    int32 cpuLevel;        /* ownGetCpuLevel */
+    int32 minParallelWork; /* ownGetMinParallelWork */
+} OwnSettings;
+const OwnSettings* ownGetSettings(void);
+
 #pragma GCC visibility pop
 #ifdef __cplusplus
 }

@@ -180,6 +180,7 @@ TEST(MinParallelWork, KeepsWhatIsSetAndRefusesLessThanNothing)
         EXPECT_EQ(stsOk, zepSetMinParallelWork(elements));
         EXPECT_EQ(stsSizeErr, zepSetMinParallelWork(-1));
         EXPECT_EQ(elements, ownGetMinParallelWork());
+        EXPECT_EQ(elements, ownGetSettings()->minParallelWork);
     }
 }
 
@@ -208,6 +209,7 @@ TEST(CpuLevel, ReachesFromTheBaselineToTheProcessorsOwn)
         for (const int32 refused : {-1, highest + 1, std::numeric_limits<int32>::max()})
             EXPECT_EQ(stsSizeErr, zepSetCpuLevel(refused));
         EXPECT_EQ(level, ownGetCpuLevel());
+        EXPECT_EQ(level, ownGetSettings()->cpuLevel);
         EXPECT_TRUE(addsRight(zepmAdd_vava_32f));
     }
 }
