@@ -308,7 +308,7 @@ std::vector<Violation> violationsOf(const Function& function, const std::vector<
 TEST_P(Lane, Validation)
 {
     std::set<char> steps;
-    for (Strides strides : {Strides::Gapped, Strides::General})
+    for (Strides strides : {Strides::Dense, Strides::Gapped, Strides::General})
     {
         Case chosen{function.sizesToTry[3], function.isArray() ? 3 : 1, strides, {}};
         if (!takes(chosen, false)) continue;
@@ -415,11 +415,11 @@ Case caseWithEstimate(const Function& function, int32 wanted, bool atOrAbove)
 // One below the limit the driver is not entered, at the limit it is; it asks for the number of threads.
 TEST_P(Lane, Limits)
 {
-    for (const Strides strides : {Strides::Gapped, Strides::General})
+    for (const Strides strides : {Strides::Dense, Strides::Gapped, Strides::General})
         for (const bool above : {false, true})
         {
             if (!function.hasDriver()) continue;
-            const bool isPacked = strides == Strides::Gapped && function.layout != Layout::P;
+            const bool isPacked = strides != Strides::General && function.layout != Layout::P;
             const int32 limit = isPacked ? function.limits.packed : function.limits.general;
             Case chosen = caseWithEstimate(function, above ? limit : limit - 1, above);
             chosen.strides = strides;
