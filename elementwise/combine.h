@@ -339,28 +339,23 @@ ZEPM_INLINE Status forEachObject(const X& x, Status (*kernel)(const One&))
 
 // ---- The way in -----------------------------------------------------------------------------------------------------
 
-// A kernel or driver that is given a copy of x, so that x itself is never stored.
-template <class X>
-struct OnCopy
+// All calls but those on operands without gaps, out of the way of these.
+template <class X, class Order, class Limits>
+[[gnu::noinline, gnu::cold]] Status enterStored(const X& x, Kernel<X> packed, Kernel<X> general, Kernel<X> driver)
 {
-    Kernel<X> path;
-    ZEPM_INLINE Status operator()(const X& x) const
-    {
-        const X copy = x;
-        return path(copy);
-    }
-};
+    return enter(x, Order{}, Limits{}, packed, general, driver);
+}
 
 // As enter, but a serial call on operands without gaps does not come to a kernel: their strides need no check, and they
 // go where the work is done in registers. Results are stored one a cycle, so that storing an argument struct would
 // tell; x stays in registers, provided that the caller has not made it const.
 template <class Op, class X, class Order, class Limits>
-ZEPM_INLINE Status enterDense(Op op, const X& x, Order steps, Limits limits, Kernel<X> packed, Kernel<X> general,
-                              Kernel<X> driver)
+ZEPM_INLINE Status enterDense(Op op, const X& x, Order, Limits, Kernel<X> packed, Kernel<X> general, Kernel<X> driver)
 {
     using Sound = order<Pointers, Sizes, Count>;
     if (x.isPacked() && Sound::check(x) == stsOk && !isHeavy<Limits::packed>(x) && combineIfDense(op, x)) return stsOk;
-    return enter(x, steps, limits, OnCopy<X>{packed}, OnCopy<X>{general}, OnCopy<X>{driver});
+    const X stored = x;
+    return enterStored<X, Order, Limits>(stored, packed, general, driver);
 }
 
 } // namespace zepm

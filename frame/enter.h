@@ -137,9 +137,9 @@ ZEPM_INLINE bool isHeavy(const X& x)
         return work >= Limit;
 }
 
-// Arrays in S and L. A path is a Kernel<X> or does what one does.
-template <class X, class Order, class Limits, class Path>
-ZEPM_INLINE Status enter(const X& x, Order, Limits, Path packed, Path general, Path driver)
+// Arrays in S and L.
+template <class X, class Order, class Limits>
+ZEPM_INLINE Status enter(const X& x, Order, Limits, Kernel<X> packed, Kernel<X> general, Kernel<X> driver)
 {
     if (const Status invalid = Order::check(x)) return invalid;
     if (x.isPacked()) return isHeavy<Limits::packed>(x) ? driver(x) : packed(x);
