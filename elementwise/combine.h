@@ -127,11 +127,12 @@ ZEPM_INLINE ptrdiff_t rowStrideOf(const Block& block)
         return block.stride1;
 }
 
-// Whether each row begins where the one before ends, constants likewise.
+// Whether each row begins where the one before ends, constants likewise. Strides need not have been validated yet; the
+// size of a row need not fit an address.
 template <class Block, class X>
 ZEPM_INLINE bool liesDense(const Block& block, const X& x)
 {
-    const ptrdiff_t rowSize = static_cast<ptrdiff_t>(sizeof(typename Block::Element)) * x.width;
+    const int64_t rowSize = static_cast<int64_t>(sizeof(typename Block::Element)) * x.width;
     if constexpr (std::is_same_v<Block, ConstantArrayBlock<typename Block::Element>>)
         return block.stride0 == sizeof(typename Block::Element);
     else if constexpr (!isConstantBlock<Block>)
@@ -162,7 +163,7 @@ ZEPM_INLINE auto inTheirOrder(Op op, const X& x, F f)
         return f(op, x, x.src1, x.src2);
 }
 
-// Objects without gaps, or false. It takes what it needs from x by value.
+// Serves objects without gaps; false where there are any. It takes what it needs from x by value.
 template <class Op, class X>
 ZEPM_INLINE bool combineIfDense(Op op, const X& call)
 {

@@ -337,6 +337,16 @@ TEST_P(Lane, Validation)
                     << " violated";
             }
         }
+        // Sizes whose products wrap do not hide a wrong stride.
+        for (const Violation& violation : violations)
+        {
+            if (violation.step != 'T') continue;
+            std::vector<Arg> args = Trial::values(valid);
+            for (size_t n = 0; n < args.size(); ++n)
+                if (valid[n].kind == NamedArg::Size) args[n] = INT32_MAX;
+            args[violation.arg] = violation.value;
+            ASSERT_EQ(trial.call(args), stsStrideErr) << words(chosen) << "\n  " << valid[violation.arg].name;
+        }
         ASSERT_EQ(trial.change(), "") << words(chosen);
     }
     if (settingOf("CHECK_CASE", 0) > 0) return;
