@@ -168,7 +168,7 @@ template <class Op, class X>
 ZEPM_INLINE bool combineIfDense(Op op, const X& call)
 {
     return inTheirOrder(
-        op, call, [](auto inOrder, const X& x, auto a, auto b) __attribute__((always_inline)) {
+        op, call, [](auto inOrder, const auto& x, auto a, auto b) __attribute__((always_inline)) {
             using A = decltype(a);
             using B = decltype(b);
             using Dst = decltype(x.dst);
@@ -191,7 +191,7 @@ template <class Op, class X>
 ZEPM_INLINE void combineContiguous(Op op, const X& call)
 {
     inTheirOrder(
-        op, call, [](auto inOrder, const X& x, const auto& a, const auto& b) __attribute__((always_inline)) {
+        op, call, [](auto inOrder, const auto& x, const auto& a, const auto& b) __attribute__((always_inline)) {
             using A = std::remove_cvref_t<decltype(a)>;
             using B = std::remove_cvref_t<decltype(b)>;
             using Dst = decltype(x.dst);
