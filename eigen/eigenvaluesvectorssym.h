@@ -8,29 +8,21 @@ namespace zepm
 
 extern "C" {
 
-Status ownEigenValuesVectorsSym_m_32f_Packed(const SymmetricVectorsM<float32, S>& x);
-Status ownEigenValuesVectorsSym_m_32f_Strided(const SymmetricVectorsM<float32, S>& x);
-Status ownEigenValuesVectorsSym_m_32f_P(const SymmetricVectorsM<float32, P>& x);
-Status ownEigenValuesVectorsSym_m_64f_Packed(const SymmetricVectorsM<float64, S>& x);
-Status ownEigenValuesVectorsSym_m_64f_Strided(const SymmetricVectorsM<float64, S>& x);
-Status ownEigenValuesVectorsSym_m_64f_P(const SymmetricVectorsM<float64, P>& x);
+KernelOf<SymmetricVectorsM<float32, S>> ownEigenValuesVectorsSym_m_32f_Packed, ownEigenValuesVectorsSym_m_32f_Strided;
+KernelOf<SymmetricVectorsM<float32, P>> ownEigenValuesVectorsSym_m_32f_P;
+KernelOf<SymmetricVectorsM<float64, S>> ownEigenValuesVectorsSym_m_64f_Packed, ownEigenValuesVectorsSym_m_64f_Strided;
+KernelOf<SymmetricVectorsM<float64, P>> ownEigenValuesVectorsSym_m_64f_P;
 
-Status ownEigenValuesVectorsSym_ma_32f_Packed(const SymmetricVectorsMa<float32, S>& x);
-Status ownEigenValuesVectorsSym_ma_32f_Strided(const SymmetricVectorsMa<float32, S>& x);
-Status ownOMP_zepmEigenValuesVectorsSym_ma_32f(const SymmetricVectorsMa<float32, S>& x);
-Status ownEigenValuesVectorsSym_ma_32f_L_Packed(const SymmetricVectorsMa<float32, L>& x);
-Status ownEigenValuesVectorsSym_ma_32f_L_Strided(const SymmetricVectorsMa<float32, L>& x);
-Status ownOMP_zepmEigenValuesVectorsSym_ma_32f_L(const SymmetricVectorsMa<float32, L>& x);
-Status ownEigenValuesVectorsSym_ma_32f_P(const SymmetricVectorsMa<float32, P>& x);
-Status ownOMP_zepmEigenValuesVectorsSym_ma_32f_P(const SymmetricVectorsMa<float32, P>& x);
-Status ownEigenValuesVectorsSym_ma_64f_Packed(const SymmetricVectorsMa<float64, S>& x);
-Status ownEigenValuesVectorsSym_ma_64f_Strided(const SymmetricVectorsMa<float64, S>& x);
-Status ownOMP_zepmEigenValuesVectorsSym_ma_64f(const SymmetricVectorsMa<float64, S>& x);
-Status ownEigenValuesVectorsSym_ma_64f_L_Packed(const SymmetricVectorsMa<float64, L>& x);
-Status ownEigenValuesVectorsSym_ma_64f_L_Strided(const SymmetricVectorsMa<float64, L>& x);
-Status ownOMP_zepmEigenValuesVectorsSym_ma_64f_L(const SymmetricVectorsMa<float64, L>& x);
-Status ownEigenValuesVectorsSym_ma_64f_P(const SymmetricVectorsMa<float64, P>& x);
-Status ownOMP_zepmEigenValuesVectorsSym_ma_64f_P(const SymmetricVectorsMa<float64, P>& x);
+KernelOf<SymmetricVectorsMa<float32, S>> ownEigenValuesVectorsSym_ma_32f_Packed,
+    ownEigenValuesVectorsSym_ma_32f_Strided, ownOMP_zepmEigenValuesVectorsSym_ma_32f;
+KernelOf<SymmetricVectorsMa<float32, L>> ownEigenValuesVectorsSym_ma_32f_L_Packed,
+    ownEigenValuesVectorsSym_ma_32f_L_Strided, ownOMP_zepmEigenValuesVectorsSym_ma_32f_L;
+KernelOf<SymmetricVectorsMa<float32, P>> ownEigenValuesVectorsSym_ma_32f_P, ownOMP_zepmEigenValuesVectorsSym_ma_32f_P;
+KernelOf<SymmetricVectorsMa<float64, S>> ownEigenValuesVectorsSym_ma_64f_Packed,
+    ownEigenValuesVectorsSym_ma_64f_Strided, ownOMP_zepmEigenValuesVectorsSym_ma_64f;
+KernelOf<SymmetricVectorsMa<float64, L>> ownEigenValuesVectorsSym_ma_64f_L_Packed,
+    ownEigenValuesVectorsSym_ma_64f_L_Strided, ownOMP_zepmEigenValuesVectorsSym_ma_64f_L;
+KernelOf<SymmetricVectorsMa<float64, P>> ownEigenValuesVectorsSym_ma_64f_P, ownOMP_zepmEigenValuesVectorsSym_ma_64f_P;
 }
 
 } // namespace zepm

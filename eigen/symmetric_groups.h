@@ -31,27 +31,12 @@ struct GroupCall
     int32 order;
 };
 
-#define ZEPM_DECLARE_LEVEL(level)                                                                                      \
-    namespace level                                                                                                    \
-    {                                                                                                                  \
-    template <class T, bool WithVectors>                                                                               \
-    int32 solveGroups(const GroupCall& call, int32 first, int32 count);                                                \
-    }
-ZEPM_DECLARE_LEVEL(ssse3)
-ZEPM_DECLARE_LEVEL(avx2)
-ZEPM_DECLARE_LEVEL(avx512)
-#undef ZEPM_DECLARE_LEVEL
-
 // The most objects in a group at any level.
 inline constexpr int32 mostInGroup = 32;
 
 // Solves the objects from first on, group after group, up to the first group in which an object fails: of that group
 // nothing is written. The result is the first object not solved.
-template <class T, bool WithVectors>
-ZEPM_INLINE int32 solveGroups(const GroupCall& call, int32 first, int32 count)
-{
-    return atLevel(ssse3::solveGroups<T, WithVectors>, avx2::solveGroups<T, WithVectors>,
-                   avx512::solveGroups<T, WithVectors>)(call, first, count);
-}
+ZEPM_EACH_LEVEL(template <class T, bool WithVectors>
+                int32 solveGroups(const GroupCall& call, int32 first, int32 count);)
 
 } // namespace zepm

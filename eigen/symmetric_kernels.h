@@ -203,8 +203,7 @@ ZEPM_INLINE Status solveOne(const X& x)
 {
     using T = typename X::Element;
     return solveObject<rules, T>(x.src.template view<access == Packed>(x.widthHeight).object(0),
-                                 objectOf(vectorsOf<access>(x), 0), bytes(x.dstValues.p), x.pBuffer.p,
-                                 x.widthHeight);
+                                 objectOf(vectorsOf<access>(x), 0), bytes(x.dstValues.p), x.pBuffer.p, x.widthHeight);
 }
 
 template <class T>
@@ -265,7 +264,7 @@ ZEPM_INLINE Status solveArray(const X& x)
     call.order = n;
     for (int32 k = 0; k < x.count;)
     {
-        k = solveGroups<T, withVectors>(call, k, x.count);
+        k = ZEPM_AT_LEVEL(solveGroups<T, withVectors>)(call, k, x.count);
         const int32 end = x.count - k < mostInGroup ? x.count : k + mostInGroup;
         if (const Status status = solveUpTo(k, end)) return status;
         k = end;

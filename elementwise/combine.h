@@ -176,9 +176,9 @@ ZEPM_INLINE bool combineIfDense(Op op, const X& call)
             {
                 if (liesDense(a, x) && liesDense(b, x) && liesDense(x.dst, x))
                 {
-                    combineDense<decltype(inOrder), typename Dst::Element>(rowsOf(a).p, rowsOf(b).p, bytes(x.dst.p),
-                                                                           static_cast<ptrdiff_t>(x.width) * x.height,
-                                                                           x.count, sourcesOf<A, B>);
+                    ZEPM_AT_LEVEL(combineDense<decltype(inOrder), typename Dst::Element>)
+                    (rowsOf(a).p, rowsOf(b).p, bytes(x.dst.p), static_cast<ptrdiff_t>(x.width) * x.height, x.count,
+                     sourcesOf<A, B>);
                     return true;
                 }
             }
@@ -199,11 +199,18 @@ ZEPM_INLINE void combineContiguous(Op op, const X& call)
             const RowCall rows{rowsOf(a),        rowsOf(b), rowsOf(x.dst), isConstantBlock<B>,
                                isListBlock<Dst>, x.width,   x.count};
             if constexpr (X::rank == 1)
-                combineRows<InOrder, typename Dst::Element>(rows);
+                ZEPM_AT_LEVEL(combineRows<InOrder, typename Dst::Element>)(rows);
             else
-                combineMatrices<InOrder, typename Dst::Element>({rows, x.height, rowStrideOf(a), rowStrideOf(b),
-                                                                 rowStrideOf(x.dst), isTransposedBlock<A>,
-                                                                 isTransposedBlock<B>});
+            {
+                MatrixCall matrices{rows,
+                                    x.height,
+                                    rowStrideOf(a),
+                                    rowStrideOf(b),
+                                    rowStrideOf(x.dst),
+                                    isTransposedBlock<A>,
+                                    isTransposedBlock<B>};
+                ZEPM_AT_LEVEL(combineMatrices<InOrder, typename Dst::Element>)(matrices);
+            }
         });
 }
 
@@ -242,9 +249,9 @@ ZEPM_INLINE void combineAcross(Op op, const X& x)
             const char *const a = rowAcross(x.src1, x, i, j), *const b = rowAcross(x.src2, x, i, j);
             char* const d = rowAcross(x.dst, x, i, j);
             if constexpr (flips)
-                combineDense<decltype(flipped(op)), T>(b, a, d, x.count, 1, sources);
+                ZEPM_AT_LEVEL(combineDense<decltype(flipped(op)), T>)(b, a, d, x.count, 1, sources);
             else
-                combineDense<Op, T>(a, b, d, x.count, 1, sources);
+                ZEPM_AT_LEVEL(combineDense<Op, T>)(a, b, d, x.count, 1, sources);
         }
 }
 
@@ -270,20 +277,21 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
     }();
     switch (x.width)
     {
-    case 3: return ssse3::rowOf<T, 3>(op, a, b, d);
-    case 4: return ssse3::rowOf<T, 4>(op, a, b, d);
-    case 5: return ssse3::rowOf<T, 5>(op, a, b, d);
-    case 6: return ssse3::rowOf<T, 6>(op, a, b, d);
+    case 3: return baseline::rowOf<T, 3>(op, a, b, d);
+    case 4: return baseline::rowOf<T, 4>(op, a, b, d);
+    case 5: return baseline::rowOf<T, 5>(op, a, b, d);
+    case 6: return baseline::rowOf<T, 6>(op, a, b, d);
     default: break;
     }
     auto apart = [&](const char* s) __attribute__((always_inline))
     {
-        return s == d || ssse3::areApart(s, d, x.width * static_cast<ptrdiff_t>(sizeof(T)));
+        return s == d || baseline::areApart(s, d, x.width * static_cast<ptrdiff_t>(sizeof(T)));
     };
     bool isApart = x.width > 6 && apart(a);
     if constexpr (!isConstant) isApart = isApart && apart(b);
     if (isApart)
-        combineDense<Op, T>(a, rowsOf(x.src2).p, d, x.width, 1, sourcesOf<decltype(x.src1), decltype(x.src2)>);
+        ZEPM_AT_LEVEL(combineDense<Op, T>)
+        (a, rowsOf(x.src2).p, d, x.width, 1, sourcesOf<decltype(x.src1), decltype(x.src2)>);
     else
         combineObject(op, viewOf<true>(x.src1, x).object(0), viewOf<true>(x.src2, x).object(0),
                       viewOf<true>(x.dst, x).object(0), x.width, 1);
@@ -342,7 +350,8 @@ ZEPM_INLINE Status forEachObject(const X& x, Status (*kernel)(const One&))
 
 // All calls but those on operands without gaps, out of the way of these.
 template <class X, class Order, class Limits>
-[[gnu::noinline, gnu::cold]] Status enterStored(const X& x, Kernel<X> packed, Kernel<X> general, Kernel<X> driver)
+[[gnu::noinline, gnu::cold]] Status enterStored(const X& x, KernelOf<X>* packed, KernelOf<X>* general,
+                                                KernelOf<X>* driver)
 {
     return enter(x, Order{}, Limits{}, packed, general, driver);
 }
@@ -351,7 +360,8 @@ template <class X, class Order, class Limits>
 // go where the work is done in registers. Results are stored one a cycle, so that storing an argument struct would
 // tell; x stays in registers, provided that the caller has not made it const.
 template <class Op, class X, class Order, class Limits>
-ZEPM_INLINE Status enterDense(Op op, const X& x, Order, Limits, Kernel<X> packed, Kernel<X> general, Kernel<X> driver)
+ZEPM_INLINE Status enterDense(Op op, const X& x, Order, Limits, KernelOf<X>* packed, KernelOf<X>* general,
+                              KernelOf<X>* driver)
 {
     using Sound = order<Pointers, Sizes, Count>;
     if (x.isPacked() && Sound::check(x) == stsOk && !isHeavy<Limits::packed>(x) && combineIfDense(op, x)) return stsOk;

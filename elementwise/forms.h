@@ -115,67 +115,67 @@ struct Elementwise : Extent<Rank>
 };
 
 template <class T, class Y>
-using Vv = Elementwise<1, v<const T, Y>, v<const T, Y>, v<T, Y>>;
+using CombineVv = Elementwise<1, v<const T, Y>, v<const T, Y>, v<T, Y>>;
 template <class T, class Y>
-using Vc = Elementwise<1, v<const T, Y>, c<T>, v<T, Y>>;
+using CombineVc = Elementwise<1, v<const T, Y>, c<T>, v<T, Y>>;
 
 template <class T, class Y>
-using Vac = Elementwise<1, va<const T, Y>, c<T>, va<T, Y>, ConstantAsVector>; // Add, Sub
+using CombineVac = Elementwise<1, va<const T, Y>, c<T>, va<T, Y>, ConstantAsVector>; // Add, Sub
 template <class T, class Y>
-using MulVac = Elementwise<1, va<const T, Y>, c<T>, va<T, Y>>;
+using ScaleVac = Elementwise<1, va<const T, Y>, c<T>, va<T, Y>>;
 template <class T, class Y>
-using Cva = Elementwise<1, va<const T, Y>, c<T>, va<T, Y>, TwoPerObject>;
+using CombineCva = Elementwise<1, va<const T, Y>, c<T>, va<T, Y>, TwoPerObject>;
 template <class T, class Y>
-using Vca = Elementwise<1, v<const T, Y>, ca<T, Y>, va<T, Y>>;
+using CombineVca = Elementwise<1, v<const T, Y>, ca<T, Y>, va<T, Y>>;
 template <class T, class Y>
-using Vaca = Elementwise<1, va<const T, Y>, ca<T, Y>, va<T, Y>>;
+using CombineVaca = Elementwise<1, va<const T, Y>, ca<T, Y>, va<T, Y>>;
 template <class T, class Y>
-using Vav = Elementwise<1, va<const T, Y>, v<const T, Y>, va<T, Y>>;
+using CombineVav = Elementwise<1, va<const T, Y>, v<const T, Y>, va<T, Y>>;
 template <class T, class Y>
-using Vva = Elementwise<1, v<const T, Y>, va<const T, Y>, va<T, Y>>;
+using CombineVva = Elementwise<1, v<const T, Y>, va<const T, Y>, va<T, Y>>;
 template <class T, class Y>
-using Vava = Elementwise<1, va<const T, Y>, va<const T, Y>, va<T, Y>>;
+using CombineVava = Elementwise<1, va<const T, Y>, va<const T, Y>, va<T, Y>>;
 
 template <class T, class Y>
-using Mm = Elementwise<2, m<const T, Y>, m<const T, Y>, m<T, Y>>;
+using CombineMm = Elementwise<2, m<const T, Y>, m<const T, Y>, m<T, Y>>;
 template <class T, class Y>
-using Mt = Elementwise<2, m<const T, Y>, t<const T, Y>, m<T, Y>>;
+using CombineMt = Elementwise<2, m<const T, Y>, t<const T, Y>, m<T, Y>>;
 template <class T, class Y>
-using Tm = Elementwise<2, t<const T, Y>, m<const T, Y>, m<T, Y>>;
+using CombineTm = Elementwise<2, t<const T, Y>, m<const T, Y>, m<T, Y>>;
 template <class T, class Y>
-using Tt = Elementwise<2, t<const T, Y>, t<const T, Y>, m<T, Y>>;
+using CombineTt = Elementwise<2, t<const T, Y>, t<const T, Y>, m<T, Y>>;
 template <class T, class Y>
-using Mc = Elementwise<2, m<const T, Y>, c<T>, m<T, Y>>;
+using CombineMc = Elementwise<2, m<const T, Y>, c<T>, m<T, Y>>;
 template <class T, class Y>
-using Tc = Elementwise<2, t<const T, Y>, c<T>, m<T, Y>>;
+using CombineTc = Elementwise<2, t<const T, Y>, c<T>, m<T, Y>>;
 
 template <class T, class Y>
-using Mam = Elementwise<2, ma<const T, Y>, m<const T, Y>, ma<T, Y>>;
+using CombineMam = Elementwise<2, ma<const T, Y>, m<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Mat = Elementwise<2, ma<const T, Y>, t<const T, Y>, ma<T, Y>>;
+using CombineMat = Elementwise<2, ma<const T, Y>, t<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tam = Elementwise<2, ta<const T, Y>, m<const T, Y>, ma<T, Y>>;
+using CombineTam = Elementwise<2, ta<const T, Y>, m<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tat = Elementwise<2, ta<const T, Y>, t<const T, Y>, ma<T, Y>>;
+using CombineTat = Elementwise<2, ta<const T, Y>, t<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Mma = Elementwise<2, m<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+using CombineMma = Elementwise<2, m<const T, Y>, ma<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Mta = Elementwise<2, m<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+using CombineMta = Elementwise<2, m<const T, Y>, ta<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tma = Elementwise<2, t<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+using CombineTma = Elementwise<2, t<const T, Y>, ma<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tta = Elementwise<2, t<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+using CombineTta = Elementwise<2, t<const T, Y>, ta<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Mama = Elementwise<2, ma<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+using CombineMama = Elementwise<2, ma<const T, Y>, ma<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Mata = Elementwise<2, ma<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+using CombineMata = Elementwise<2, ma<const T, Y>, ta<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tama = Elementwise<2, ta<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+using CombineTama = Elementwise<2, ta<const T, Y>, ma<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tata = Elementwise<2, ta<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+using CombineTata = Elementwise<2, ta<const T, Y>, ta<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Mac = Elementwise<2, ma<const T, Y>, c<T>, ma<T, Y>>;
+using CombineMac = Elementwise<2, ma<const T, Y>, c<T>, ma<T, Y>>;
 template <class T, class Y>
-using Tac = Elementwise<2, ta<const T, Y>, c<T>, ma<T, Y>>;
+using CombineTac = Elementwise<2, ta<const T, Y>, c<T>, ma<T, Y>>;
 
 } // namespace zepm

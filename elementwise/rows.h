@@ -48,40 +48,11 @@ struct MatrixCall : RowCall
     bool isTransposedA, isTransposedB;
 };
 
-#define ZEPM_DECLARE_LEVEL(level)                                                                                      \
-    namespace level                                                                                                    \
-    {                                                                                                                  \
-    template <class Op, class T>                                                                                       \
-    void combineDense(const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count, Sources sources);       \
-    template <class Op, class T>                                                                                       \
-    void combineRows(const RowCall& call);                                                                             \
-    template <class Op, class T>                                                                                       \
-    void combineMatrices(MatrixCall& call);                                                                            \
-    }
-ZEPM_DECLARE_LEVEL(ssse3)
-ZEPM_DECLARE_LEVEL(avx2)
-ZEPM_DECLARE_LEVEL(avx512)
-#undef ZEPM_DECLARE_LEVEL
-
-// Rows of which each begins where the one before ends, constants likewise. All in registers: the results are stored one
-// a cycle, so that a struct to pass would delay them.
-template <class Op, class T>
-ZEPM_INLINE void combineDense(const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count, Sources sources)
-{
-    atLevel(ssse3::combineDense<Op, T>, avx2::combineDense<Op, T>, avx512::combineDense<Op, T>)(a, b, d, width, count,
-                                                                                                sources);
-}
-
-template <class Op, class T>
-ZEPM_INLINE void combineRows(const RowCall& call)
-{
-    atLevel(ssse3::combineRows<Op, T>, avx2::combineRows<Op, T>, avx512::combineRows<Op, T>)(call);
-}
-
-template <class Op, class T>
-ZEPM_INLINE void combineMatrices(MatrixCall call)
-{
-    atLevel(ssse3::combineMatrices<Op, T>, avx2::combineMatrices<Op, T>, avx512::combineMatrices<Op, T>)(call);
-}
+// combineDense takes rows of which each begins where the one before ends, constants likewise. Its arguments stay in
+// registers: a short dense call takes about a cycle a result, and storing an argument struct would be a tenth of it.
+ZEPM_EACH_LEVEL(template <class Op, class T> void combineDense(const char* a, const char* b, char* d, ptrdiff_t width,
+                                                               ptrdiff_t count, Sources sources);
+                template <class Op, class T> void combineRows(const RowCall& call);
+                template <class Op, class T> void combineMatrices(MatrixCall& call);)
 
 } // namespace zepm

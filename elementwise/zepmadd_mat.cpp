@@ -6,16 +6,19 @@
 namespace zepm
 {
 
-Status ownAdd_mat_32f_Packed(const Mat<float32, S>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_mat_32f_Strided(const Mat<float32, S>& x) { return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownAdd_mat_32f_L_Packed(const Mat<float32, L>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_mat_32f_L_Strided(const Mat<float32, L>& x) { return combineStrided(Plus{}, x); }
-Status ownAdd_mat_32f_P(const Mat<float32, P>& x) { return combineTable(Plus{}, x); }
-Status ownAdd_mat_64f_Packed(const Mat<float64, S>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_mat_64f_Strided(const Mat<float64, S>& x) { return combineStrided(Plus{}, x); }
-Status ownAdd_mat_64f_L_Packed(const Mat<float64, L>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_mat_64f_L_Strided(const Mat<float64, L>& x) { return combineStrided(Plus{}, x); }
-Status ownAdd_mat_64f_P(const Mat<float64, P>& x) { return combineTable(Plus{}, x); }
+Status ownAdd_mat_32f_Packed(const CombineMat<float32, S>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_mat_32f_Strided(const CombineMat<float32, S>& x)
+{
+    return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownAdd_mat_32f_L_Packed(const CombineMat<float32, L>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_mat_32f_L_Strided(const CombineMat<float32, L>& x) { return combineStrided(Plus{}, x); }
+Status ownAdd_mat_32f_P(const CombineMat<float32, P>& x) { return combineTable(Plus{}, x); }
+Status ownAdd_mat_64f_Packed(const CombineMat<float64, S>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_mat_64f_Strided(const CombineMat<float64, S>& x) { return combineStrided(Plus{}, x); }
+Status ownAdd_mat_64f_L_Packed(const CombineMat<float64, L>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_mat_64f_L_Strided(const CombineMat<float64, L>& x) { return combineStrided(Plus{}, x); }
+Status ownAdd_mat_64f_P(const CombineMat<float64, P>& x) { return combineTable(Plus{}, x); }
 
 } // namespace zepm
 
@@ -25,12 +28,12 @@ Status zepmAdd_mat_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Stride
                        const float32* pSrc2, int32 src2Stride1, int32 src2Stride2, float32* pDst, int32 dstStride0,
                        int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mat<float32, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
-                            {pSrc2, src2Stride1, src2Stride2},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineMat<float32, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
+                                   {pSrc2, src2Stride1, src2Stride2},
+                                   {pDst, dstStride0, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3000, 2000>{}, ownAdd_mat_32f_Packed,
                  ownAdd_mat_32f_Strided, ownOMP_zepmAdd_mat_32f);
 }
@@ -39,12 +42,12 @@ Status zepmAdd_mat_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int32
                          const float32* pSrc2, int32 src2Stride1, int32 src2Stride2, float32* const* ppDst,
                          int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mat<float32, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
-                            {pSrc2, src2Stride1, src2Stride2},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineMat<float32, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
+                                   {pSrc2, src2Stride1, src2Stride2},
+                                   {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownAdd_mat_32f_L_Packed,
                  ownAdd_mat_32f_L_Strided, ownOMP_zepmAdd_mat_32f_L);
 }
@@ -53,12 +56,12 @@ Status zepmAdd_mat_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int32
                          const float32* const* ppSrc2, int32 src2RoiShift, float32* const* ppDst, int32 dstRoiShift,
                          int32 dstStride0, int32 width, int32 height, int32 count)
 {
-    const Mat<float32, P> x{{ppSrc1, src1RoiShift, src1Stride0},
-                            {ppSrc2, src2RoiShift},
-                            {ppDst, dstRoiShift, dstStride0},
-                            width,
-                            height,
-                            count};
+    const CombineMat<float32, P> x{{ppSrc1, src1RoiShift, src1Stride0},
+                                   {ppSrc2, src2RoiShift},
+                                   {ppDst, dstRoiShift, dstStride0},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownAdd_mat_32f_P,
                  ownOMP_zepmAdd_mat_32f_P);
 }
@@ -67,12 +70,12 @@ Status zepmAdd_mat_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Stride
                        const float64* pSrc2, int32 src2Stride1, int32 src2Stride2, float64* pDst, int32 dstStride0,
                        int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mat<float64, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
-                            {pSrc2, src2Stride1, src2Stride2},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineMat<float64, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
+                                   {pSrc2, src2Stride1, src2Stride2},
+                                   {pDst, dstStride0, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2000>{}, ownAdd_mat_64f_Packed,
                  ownAdd_mat_64f_Strided, ownOMP_zepmAdd_mat_64f);
 }
@@ -81,12 +84,12 @@ Status zepmAdd_mat_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int32
                          const float64* pSrc2, int32 src2Stride1, int32 src2Stride2, float64* const* ppDst,
                          int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mat<float64, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
-                            {pSrc2, src2Stride1, src2Stride2},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineMat<float64, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
+                                   {pSrc2, src2Stride1, src2Stride2},
+                                   {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownAdd_mat_64f_L_Packed,
                  ownAdd_mat_64f_L_Strided, ownOMP_zepmAdd_mat_64f_L);
 }
@@ -95,12 +98,12 @@ Status zepmAdd_mat_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int32
                          const float64* const* ppSrc2, int32 src2RoiShift, float64* const* ppDst, int32 dstRoiShift,
                          int32 dstStride0, int32 width, int32 height, int32 count)
 {
-    const Mat<float64, P> x{{ppSrc1, src1RoiShift, src1Stride0},
-                            {ppSrc2, src2RoiShift},
-                            {ppDst, dstRoiShift, dstStride0},
-                            width,
-                            height,
-                            count};
+    const CombineMat<float64, P> x{{ppSrc1, src1RoiShift, src1Stride0},
+                                   {ppSrc2, src2RoiShift},
+                                   {ppDst, dstRoiShift, dstStride0},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownAdd_mat_64f_P,
                  ownOMP_zepmAdd_mat_64f_P);
 }

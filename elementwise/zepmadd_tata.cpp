@@ -6,16 +6,22 @@
 namespace zepm
 {
 
-Status ownAdd_tata_32f_Packed(const Tata<float32, S>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_tata_32f_Strided(const Tata<float32, S>& x) { return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownAdd_tata_32f_L_Packed(const Tata<float32, L>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_tata_32f_L_Strided(const Tata<float32, L>& x) { return forEachObject(x, ownAdd_tt_32f_Strided); }
-Status ownAdd_tata_32f_P(const Tata<float32, P>& x) { return combineTable(Plus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownAdd_tata_64f_Packed(const Tata<float64, S>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_tata_64f_Strided(const Tata<float64, S>& x) { return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownAdd_tata_64f_L_Packed(const Tata<float64, L>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_tata_64f_L_Strided(const Tata<float64, L>& x) { return forEachObject(x, ownAdd_tt_64f_Strided); }
-Status ownAdd_tata_64f_P(const Tata<float64, P>& x) { return combineTable(Plus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownAdd_tata_32f_Packed(const CombineTata<float32, S>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_tata_32f_Strided(const CombineTata<float32, S>& x)
+{
+    return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownAdd_tata_32f_L_Packed(const CombineTata<float32, L>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_tata_32f_L_Strided(const CombineTata<float32, L>& x) { return forEachObject(x, ownAdd_tt_32f_Strided); }
+Status ownAdd_tata_32f_P(const CombineTata<float32, P>& x) { return combineTable(Plus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownAdd_tata_64f_Packed(const CombineTata<float64, S>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_tata_64f_Strided(const CombineTata<float64, S>& x)
+{
+    return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownAdd_tata_64f_L_Packed(const CombineTata<float64, L>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_tata_64f_L_Strided(const CombineTata<float64, L>& x) { return forEachObject(x, ownAdd_tt_64f_Strided); }
+Status ownAdd_tata_64f_P(const CombineTata<float64, P>& x) { return combineTable(Plus{}, x, orders<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -25,12 +31,12 @@ Status zepmAdd_tata_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Strid
                         const float32* pSrc2, int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float32* pDst,
                         int32 dstStride0, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Tata<float32, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
-                             {pSrc2, src2Stride0, src2Stride1, src2Stride2},
-                             {pDst, dstStride0, dstStride1, dstStride2},
-                             width,
-                             height,
-                             count};
+    const CombineTata<float32, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
+                                    {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                                    {pDst, dstStride0, dstStride1, dstStride2},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3000, 2000>{}, ownAdd_tata_32f_Packed,
                  ownAdd_tata_32f_Strided, ownOMP_zepmAdd_tata_32f);
 }
@@ -40,12 +46,12 @@ Status zepmAdd_tata_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int3
                           float32* const* ppDst, int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width,
                           int32 height, int32 count)
 {
-    const Tata<float32, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
-                             {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
-                             {ppDst, dstRoiShift, dstStride1, dstStride2},
-                             width,
-                             height,
-                             count};
+    const CombineTata<float32, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
+                                    {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
+                                    {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownAdd_tata_32f_L_Packed,
                  ownAdd_tata_32f_L_Strided, ownOMP_zepmAdd_tata_32f_L);
 }
@@ -54,12 +60,12 @@ Status zepmAdd_tata_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int3
                           const float32* const* ppSrc2, int32 src2RoiShift, int32 src2Stride0, float32* const* ppDst,
                           int32 dstRoiShift, int32 dstStride0, int32 width, int32 height, int32 count)
 {
-    const Tata<float32, P> x{{ppSrc1, src1RoiShift, src1Stride0},
-                             {ppSrc2, src2RoiShift, src2Stride0},
-                             {ppDst, dstRoiShift, dstStride0},
-                             width,
-                             height,
-                             count};
+    const CombineTata<float32, P> x{{ppSrc1, src1RoiShift, src1Stride0},
+                                    {ppSrc2, src2RoiShift, src2Stride0},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownAdd_tata_32f_P,
                  ownOMP_zepmAdd_tata_32f_P);
 }
@@ -68,12 +74,12 @@ Status zepmAdd_tata_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Strid
                         const float64* pSrc2, int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float64* pDst,
                         int32 dstStride0, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Tata<float64, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
-                             {pSrc2, src2Stride0, src2Stride1, src2Stride2},
-                             {pDst, dstStride0, dstStride1, dstStride2},
-                             width,
-                             height,
-                             count};
+    const CombineTata<float64, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
+                                    {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                                    {pDst, dstStride0, dstStride1, dstStride2},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2000>{}, ownAdd_tata_64f_Packed,
                  ownAdd_tata_64f_Strided, ownOMP_zepmAdd_tata_64f);
 }
@@ -83,12 +89,12 @@ Status zepmAdd_tata_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int3
                           float64* const* ppDst, int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width,
                           int32 height, int32 count)
 {
-    const Tata<float64, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
-                             {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
-                             {ppDst, dstRoiShift, dstStride1, dstStride2},
-                             width,
-                             height,
-                             count};
+    const CombineTata<float64, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
+                                    {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
+                                    {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownAdd_tata_64f_L_Packed,
                  ownAdd_tata_64f_L_Strided, ownOMP_zepmAdd_tata_64f_L);
 }
@@ -97,12 +103,12 @@ Status zepmAdd_tata_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int3
                           const float64* const* ppSrc2, int32 src2RoiShift, int32 src2Stride0, float64* const* ppDst,
                           int32 dstRoiShift, int32 dstStride0, int32 width, int32 height, int32 count)
 {
-    const Tata<float64, P> x{{ppSrc1, src1RoiShift, src1Stride0},
-                             {ppSrc2, src2RoiShift, src2Stride0},
-                             {ppDst, dstRoiShift, dstStride0},
-                             width,
-                             height,
-                             count};
+    const CombineTata<float64, P> x{{ppSrc1, src1RoiShift, src1Stride0},
+                                    {ppSrc2, src2RoiShift, src2Stride0},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownAdd_tata_64f_P,
                  ownOMP_zepmAdd_tata_64f_P);
 }

@@ -6,16 +6,16 @@
 namespace zepm
 {
 
-Status ownAdd_vac_32f_Packed(const Vac<float32, S>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_vac_32f_Strided(const Vac<float32, S>& x) { return combineStrided(Plus{}, x); }
-Status ownAdd_vac_32f_L_Packed(const Vac<float32, L>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_vac_32f_L_Strided(const Vac<float32, L>& x) { return combineStrided(Plus{}, x); }
-Status ownAdd_vac_32f_P(const Vac<float32, P>& x) { return combineTable(Plus{}, x); }
-Status ownAdd_vac_64f_Packed(const Vac<float64, S>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_vac_64f_Strided(const Vac<float64, S>& x) { return combineStrided(Plus{}, x); }
-Status ownAdd_vac_64f_L_Packed(const Vac<float64, L>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_vac_64f_L_Strided(const Vac<float64, L>& x) { return combineStrided(Plus{}, x); }
-Status ownAdd_vac_64f_P(const Vac<float64, P>& x) { return combineTable(Plus{}, x); }
+Status ownAdd_vac_32f_Packed(const CombineVac<float32, S>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_vac_32f_Strided(const CombineVac<float32, S>& x) { return combineStrided(Plus{}, x); }
+Status ownAdd_vac_32f_L_Packed(const CombineVac<float32, L>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_vac_32f_L_Strided(const CombineVac<float32, L>& x) { return combineStrided(Plus{}, x); }
+Status ownAdd_vac_32f_P(const CombineVac<float32, P>& x) { return combineTable(Plus{}, x); }
+Status ownAdd_vac_64f_Packed(const CombineVac<float64, S>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_vac_64f_Strided(const CombineVac<float64, S>& x) { return combineStrided(Plus{}, x); }
+Status ownAdd_vac_64f_L_Packed(const CombineVac<float64, L>& x) { return combinePacked(Plus{}, x); }
+Status ownAdd_vac_64f_L_Strided(const CombineVac<float64, L>& x) { return combineStrided(Plus{}, x); }
+Status ownAdd_vac_64f_P(const CombineVac<float64, P>& x) { return combineTable(Plus{}, x); }
 
 } // namespace zepm
 
@@ -24,7 +24,7 @@ using namespace zepm;
 Status zepmAdd_vac_32f(const float32* pSrc, int32 srcStride0, int32 srcStride2, float32 val, float32* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    Vac<float32, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
+    CombineVac<float32, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
     return enterDense(Plus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownAdd_vac_32f_Packed,
                       ownAdd_vac_32f_Strided, ownOMP_zepmAdd_vac_32f);
 }
@@ -32,7 +32,8 @@ Status zepmAdd_vac_32f(const float32* pSrc, int32 srcStride0, int32 srcStride2, 
 Status zepmAdd_vac_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 srcStride2, float32 val,
                          float32* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 len, int32 count)
 {
-    const Vac<float32, L> x{{ppSrc, srcRoiShift, srcStride2}, {val}, {ppDst, dstRoiShift, dstStride2}, len, count};
+    const CombineVac<float32, L> x{
+        {ppSrc, srcRoiShift, srcStride2}, {val}, {ppDst, dstRoiShift, dstStride2}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2501>{}, ownAdd_vac_32f_L_Packed,
                  ownAdd_vac_32f_L_Strided, ownOMP_zepmAdd_vac_32f_L);
 }
@@ -40,7 +41,8 @@ Status zepmAdd_vac_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 s
 Status zepmAdd_vac_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 srcStride0, float32 val,
                          float32* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 len, int32 count)
 {
-    const Vac<float32, P> x{{ppSrc, srcRoiShift, srcStride0}, {val}, {ppDst, dstRoiShift, dstStride0}, len, count};
+    const CombineVac<float32, P> x{
+        {ppSrc, srcRoiShift, srcStride0}, {val}, {ppDst, dstRoiShift, dstStride0}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1501>{}, ownAdd_vac_32f_P,
                  ownOMP_zepmAdd_vac_32f_P);
 }
@@ -48,7 +50,7 @@ Status zepmAdd_vac_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 s
 Status zepmAdd_vac_64f(const float64* pSrc, int32 srcStride0, int32 srcStride2, float64 val, float64* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    Vac<float64, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
+    CombineVac<float64, S> x{{pSrc, srcStride0, srcStride2}, {val}, {pDst, dstStride0, dstStride2}, len, count};
     return enterDense(Plus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownAdd_vac_64f_Packed,
                       ownAdd_vac_64f_Strided, ownOMP_zepmAdd_vac_64f);
 }
@@ -56,7 +58,8 @@ Status zepmAdd_vac_64f(const float64* pSrc, int32 srcStride0, int32 srcStride2, 
 Status zepmAdd_vac_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride2, float64 val,
                          float64* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 len, int32 count)
 {
-    const Vac<float64, L> x{{ppSrc, srcRoiShift, srcStride2}, {val}, {ppDst, dstRoiShift, dstStride2}, len, count};
+    const CombineVac<float64, L> x{
+        {ppSrc, srcRoiShift, srcStride2}, {val}, {ppDst, dstRoiShift, dstStride2}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2501>{}, ownAdd_vac_64f_L_Packed,
                  ownAdd_vac_64f_L_Strided, ownOMP_zepmAdd_vac_64f_L);
 }
@@ -64,7 +67,8 @@ Status zepmAdd_vac_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 s
 Status zepmAdd_vac_64f_P(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride0, float64 val,
                          float64* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 len, int32 count)
 {
-    const Vac<float64, P> x{{ppSrc, srcRoiShift, srcStride0}, {val}, {ppDst, dstRoiShift, dstStride0}, len, count};
+    const CombineVac<float64, P> x{
+        {ppSrc, srcRoiShift, srcStride0}, {val}, {ppDst, dstRoiShift, dstStride0}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1501>{}, ownAdd_vac_64f_P,
                  ownOMP_zepmAdd_vac_64f_P);
 }

@@ -5,23 +5,23 @@
 namespace zepm
 {
 
-Status ownOMP_zepmAdd_vca_32f(const Vca<float32, S>& x)
+Status ownOMP_zepmAdd_vca_32f(const CombineVca<float32, S>& x)
 {
     return shareObjects(x, ownAdd_vca_32f_Packed, ownAdd_vca_32f_Strided);
 }
-Status ownOMP_zepmAdd_vca_32f_L(const Vca<float32, L>& x)
+Status ownOMP_zepmAdd_vca_32f_L(const CombineVca<float32, L>& x)
 {
     return shareObjects(x, ownAdd_vca_32f_L_Packed, ownAdd_vca_32f_L_Strided);
 }
-Status ownOMP_zepmAdd_vca_32f_P(const Vca<float32, P>& x) { return shareObjects(x, ownAdd_vca_32f_P); }
-Status ownOMP_zepmAdd_vca_64f(const Vca<float64, S>& x)
+Status ownOMP_zepmAdd_vca_32f_P(const CombineVca<float32, P>& x) { return shareObjects(x, ownAdd_vca_32f_P); }
+Status ownOMP_zepmAdd_vca_64f(const CombineVca<float64, S>& x)
 {
     return shareObjects(x, ownAdd_vca_64f_Packed, ownAdd_vca_64f_Strided);
 }
-Status ownOMP_zepmAdd_vca_64f_L(const Vca<float64, L>& x)
+Status ownOMP_zepmAdd_vca_64f_L(const CombineVca<float64, L>& x)
 {
     return shareObjects(x, ownAdd_vca_64f_L_Packed, ownAdd_vca_64f_L_Strided);
 }
-Status ownOMP_zepmAdd_vca_64f_P(const Vca<float64, P>& x) { return shareObjects(x, ownAdd_vca_64f_P); }
+Status ownOMP_zepmAdd_vca_64f_P(const CombineVca<float64, P>& x) { return shareObjects(x, ownAdd_vca_64f_P); }
 
 } // namespace zepm

@@ -6,16 +6,22 @@
 namespace zepm
 {
 
-Status ownMul_mac_32f_Packed(const Mac<float32, S>& x) { return combinePacked(Times{}, x); }
-Status ownMul_mac_32f_Strided(const Mac<float32, S>& x) { return combineStrided(Times{}, x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mac_32f_L_Packed(const Mac<float32, L>& x) { return combinePacked(Times{}, x); }
-Status ownMul_mac_32f_L_Strided(const Mac<float32, L>& x) { return forEachObject(x, ownMul_mc_32f_Strided); }
-Status ownMul_mac_32f_P(const Mac<float32, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mac_64f_Packed(const Mac<float64, S>& x) { return combinePacked(Times{}, x); }
-Status ownMul_mac_64f_Strided(const Mac<float64, S>& x) { return combineStrided(Times{}, x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mac_64f_L_Packed(const Mac<float64, L>& x) { return combinePacked(Times{}, x); }
-Status ownMul_mac_64f_L_Strided(const Mac<float64, L>& x) { return forEachObject(x, ownMul_mc_64f_Strided); }
-Status ownMul_mac_64f_P(const Mac<float64, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mac_32f_Packed(const CombineMac<float32, S>& x) { return combinePacked(Times{}, x); }
+Status ownMul_mac_32f_Strided(const CombineMac<float32, S>& x)
+{
+    return combineStrided(Times{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownMul_mac_32f_L_Packed(const CombineMac<float32, L>& x) { return combinePacked(Times{}, x); }
+Status ownMul_mac_32f_L_Strided(const CombineMac<float32, L>& x) { return forEachObject(x, ownMul_mc_32f_Strided); }
+Status ownMul_mac_32f_P(const CombineMac<float32, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mac_64f_Packed(const CombineMac<float64, S>& x) { return combinePacked(Times{}, x); }
+Status ownMul_mac_64f_Strided(const CombineMac<float64, S>& x)
+{
+    return combineStrided(Times{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownMul_mac_64f_L_Packed(const CombineMac<float64, L>& x) { return combinePacked(Times{}, x); }
+Status ownMul_mac_64f_L_Strided(const CombineMac<float64, L>& x) { return forEachObject(x, ownMul_mc_64f_Strided); }
+Status ownMul_mac_64f_P(const CombineMac<float64, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -25,12 +31,12 @@ Status zepmMul_mac_32f(const float32* pSrc, int32 srcStride0, int32 srcStride1, 
                        float32* pDst, int32 dstStride0, int32 dstStride1, int32 dstStride2, int32 width, int32 height,
                        int32 count)
 {
-    Mac<float32, S> x{{pSrc, srcStride0, srcStride1, srcStride2},
-                      {val},
-                      {pDst, dstStride0, dstStride1, dstStride2},
-                      width,
-                      height,
-                      count};
+    CombineMac<float32, S> x{{pSrc, srcStride0, srcStride1, srcStride2},
+                             {val},
+                             {pDst, dstStride0, dstStride1, dstStride2},
+                             width,
+                             height,
+                             count};
     return enterDense(Times{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3501>{}, ownMul_mac_32f_Packed,
                       ownMul_mac_32f_Strided, ownOMP_zepmMul_mac_32f);
 }
@@ -39,12 +45,12 @@ Status zepmMul_mac_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 s
                          float32 val, float32* const* ppDst, int32 dstRoiShift, int32 dstStride1, int32 dstStride2,
                          int32 width, int32 height, int32 count)
 {
-    const Mac<float32, L> x{{ppSrc, srcRoiShift, srcStride1, srcStride2},
-                            {val},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineMac<float32, L> x{{ppSrc, srcRoiShift, srcStride1, srcStride2},
+                                   {val},
+                                   {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<3501, 1501>{},
                  ownMul_mac_32f_L_Packed, ownMul_mac_32f_L_Strided, ownOMP_zepmMul_mac_32f_L);
 }
@@ -53,7 +59,7 @@ Status zepmMul_mac_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 s
                          float32* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 width, int32 height,
                          int32 count)
 {
-    const Mac<float32, P> x{
+    const CombineMac<float32, P> x{
         {ppSrc, srcRoiShift, srcStride0}, {val}, {ppDst, dstRoiShift, dstStride0}, width, height, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1701>{}, ownMul_mac_32f_P,
                  ownOMP_zepmMul_mac_32f_P);
@@ -63,12 +69,12 @@ Status zepmMul_mac_64f(const float64* pSrc, int32 srcStride0, int32 srcStride1, 
                        float64* pDst, int32 dstStride0, int32 dstStride1, int32 dstStride2, int32 width, int32 height,
                        int32 count)
 {
-    Mac<float64, S> x{{pSrc, srcStride0, srcStride1, srcStride2},
-                      {val},
-                      {pDst, dstStride0, dstStride1, dstStride2},
-                      width,
-                      height,
-                      count};
+    CombineMac<float64, S> x{{pSrc, srcStride0, srcStride1, srcStride2},
+                             {val},
+                             {pDst, dstStride0, dstStride1, dstStride2},
+                             width,
+                             height,
+                             count};
     return enterDense(Times{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3501>{}, ownMul_mac_64f_Packed,
                       ownMul_mac_64f_Strided, ownOMP_zepmMul_mac_64f);
 }
@@ -77,12 +83,12 @@ Status zepmMul_mac_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 s
                          float64 val, float64* const* ppDst, int32 dstRoiShift, int32 dstStride1, int32 dstStride2,
                          int32 width, int32 height, int32 count)
 {
-    const Mac<float64, L> x{{ppSrc, srcRoiShift, srcStride1, srcStride2},
-                            {val},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineMac<float64, L> x{{ppSrc, srcRoiShift, srcStride1, srcStride2},
+                                   {val},
+                                   {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<3501>{}, ownMul_mac_64f_L_Packed,
                  ownMul_mac_64f_L_Strided, ownOMP_zepmMul_mac_64f_L);
 }
@@ -91,7 +97,7 @@ Status zepmMul_mac_64f_P(const float64* const* ppSrc, int32 srcRoiShift, int32 s
                          float64* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 width, int32 height,
                          int32 count)
 {
-    const Mac<float64, P> x{
+    const CombineMac<float64, P> x{
         {ppSrc, srcRoiShift, srcStride0}, {val}, {ppDst, dstRoiShift, dstStride0}, width, height, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1701>{}, ownMul_mac_64f_P,
                  ownOMP_zepmMul_mac_64f_P);

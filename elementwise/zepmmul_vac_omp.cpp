@@ -5,23 +5,23 @@
 namespace zepm
 {
 
-Status ownOMP_zepmMul_vac_32f(const MulVac<float32, S>& x)
+Status ownOMP_zepmMul_vac_32f(const ScaleVac<float32, S>& x)
 {
     return shareObjects(x, ownMul_vac_32f_Packed, ownMul_vac_32f_Strided);
 }
-Status ownOMP_zepmMul_vac_32f_L(const MulVac<float32, L>& x)
+Status ownOMP_zepmMul_vac_32f_L(const ScaleVac<float32, L>& x)
 {
     return shareObjects(x, ownMul_vac_32f_L_Packed, ownMul_vac_32f_L_Strided);
 }
-Status ownOMP_zepmMul_vac_32f_P(const MulVac<float32, P>& x) { return shareObjects(x, ownMul_vac_32f_P); }
-Status ownOMP_zepmMul_vac_64f(const MulVac<float64, S>& x)
+Status ownOMP_zepmMul_vac_32f_P(const ScaleVac<float32, P>& x) { return shareObjects(x, ownMul_vac_32f_P); }
+Status ownOMP_zepmMul_vac_64f(const ScaleVac<float64, S>& x)
 {
     return shareObjects(x, ownMul_vac_64f_Packed, ownMul_vac_64f_Strided);
 }
-Status ownOMP_zepmMul_vac_64f_L(const MulVac<float64, L>& x)
+Status ownOMP_zepmMul_vac_64f_L(const ScaleVac<float64, L>& x)
 {
     return shareObjects(x, ownMul_vac_64f_L_Packed, ownMul_vac_64f_L_Strided);
 }
-Status ownOMP_zepmMul_vac_64f_P(const MulVac<float64, P>& x) { return shareObjects(x, ownMul_vac_64f_P); }
+Status ownOMP_zepmMul_vac_64f_P(const ScaleVac<float64, P>& x) { return shareObjects(x, ownMul_vac_64f_P); }
 
 } // namespace zepm

@@ -6,22 +6,28 @@
 namespace zepm
 {
 
-Status ownMul_vaca_32f_Packed(const Vaca<float32, S>& x) { return combinePacked(Times{}, x); }
-Status ownMul_vaca_32f_Strided(const Vaca<float32, S>& x) { return combineStrided(Times{}, x, lengths<3, 4, 5, 6>{}); }
-Status ownMul_vaca_32f_L_Packed(const Vaca<float32, L>& x) { return combinePacked(Times{}, x); }
-Status ownMul_vaca_32f_L_Strided(const Vaca<float32, L>& x)
+Status ownMul_vaca_32f_Packed(const CombineVaca<float32, S>& x) { return combinePacked(Times{}, x); }
+Status ownMul_vaca_32f_Strided(const CombineVaca<float32, S>& x)
 {
     return combineStrided(Times{}, x, lengths<3, 4, 5, 6>{});
 }
-Status ownMul_vaca_32f_P(const Vaca<float32, P>& x) { return combineTable(Times{}, x, lengths<3, 4, 5, 6>{}); }
-Status ownMul_vaca_64f_Packed(const Vaca<float64, S>& x) { return combinePacked(Times{}, x); }
-Status ownMul_vaca_64f_Strided(const Vaca<float64, S>& x) { return combineStrided(Times{}, x, lengths<3, 4, 5, 6>{}); }
-Status ownMul_vaca_64f_L_Packed(const Vaca<float64, L>& x) { return combinePacked(Times{}, x); }
-Status ownMul_vaca_64f_L_Strided(const Vaca<float64, L>& x)
+Status ownMul_vaca_32f_L_Packed(const CombineVaca<float32, L>& x) { return combinePacked(Times{}, x); }
+Status ownMul_vaca_32f_L_Strided(const CombineVaca<float32, L>& x)
 {
     return combineStrided(Times{}, x, lengths<3, 4, 5, 6>{});
 }
-Status ownMul_vaca_64f_P(const Vaca<float64, P>& x) { return combineTable(Times{}, x, lengths<3, 4, 5, 6>{}); }
+Status ownMul_vaca_32f_P(const CombineVaca<float32, P>& x) { return combineTable(Times{}, x, lengths<3, 4, 5, 6>{}); }
+Status ownMul_vaca_64f_Packed(const CombineVaca<float64, S>& x) { return combinePacked(Times{}, x); }
+Status ownMul_vaca_64f_Strided(const CombineVaca<float64, S>& x)
+{
+    return combineStrided(Times{}, x, lengths<3, 4, 5, 6>{});
+}
+Status ownMul_vaca_64f_L_Packed(const CombineVaca<float64, L>& x) { return combinePacked(Times{}, x); }
+Status ownMul_vaca_64f_L_Strided(const CombineVaca<float64, L>& x)
+{
+    return combineStrided(Times{}, x, lengths<3, 4, 5, 6>{});
+}
+Status ownMul_vaca_64f_P(const CombineVaca<float64, P>& x) { return combineTable(Times{}, x, lengths<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -30,7 +36,8 @@ using namespace zepm;
 Status zepmMul_vaca_32f(const float32* pSrc, int32 srcStride0, int32 srcStride2, const float32* pVal, int32 valStride0,
                         float32* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    Vaca<float32, S> x{{pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    CombineVaca<float32, S> x{
+        {pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
     return enterDense(Times{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2101>{},
                       ownMul_vaca_32f_Packed, ownMul_vaca_32f_Strided, ownOMP_zepmMul_vaca_32f);
 }
@@ -39,7 +46,7 @@ Status zepmMul_vaca_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 
                           int32 valRoiShift, float32* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 len,
                           int32 count)
 {
-    const Vaca<float32, L> x{
+    const CombineVaca<float32, L> x{
         {ppSrc, srcRoiShift, srcStride2}, {ppVal, valRoiShift}, {ppDst, dstRoiShift, dstStride2}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1201>{}, ownMul_vaca_32f_L_Packed,
                  ownMul_vaca_32f_L_Strided, ownOMP_zepmMul_vaca_32f_L);
@@ -49,7 +56,7 @@ Status zepmMul_vaca_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 
                           int32 valStride0, float32* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 len,
                           int32 count)
 {
-    const Vaca<float32, P> x{
+    const CombineVaca<float32, P> x{
         {ppSrc, srcRoiShift, srcStride0}, {pVal, valStride0}, {ppDst, dstRoiShift, dstStride0}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<651>{}, ownMul_vaca_32f_P,
                  ownOMP_zepmMul_vaca_32f_P);
@@ -58,7 +65,8 @@ Status zepmMul_vaca_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 
 Status zepmMul_vaca_64f(const float64* pSrc, int32 srcStride0, int32 srcStride2, const float64* pVal, int32 valStride0,
                         float64* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    Vaca<float64, S> x{{pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    CombineVaca<float64, S> x{
+        {pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
     return enterDense(Times{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2101>{},
                       ownMul_vaca_64f_Packed, ownMul_vaca_64f_Strided, ownOMP_zepmMul_vaca_64f);
 }
@@ -67,7 +75,7 @@ Status zepmMul_vaca_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 
                           int32 valRoiShift, float64* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 len,
                           int32 count)
 {
-    const Vaca<float64, L> x{
+    const CombineVaca<float64, L> x{
         {ppSrc, srcRoiShift, srcStride2}, {ppVal, valRoiShift}, {ppDst, dstRoiShift, dstStride2}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1201>{}, ownMul_vaca_64f_L_Packed,
                  ownMul_vaca_64f_L_Strided, ownOMP_zepmMul_vaca_64f_L);
@@ -77,7 +85,7 @@ Status zepmMul_vaca_64f_P(const float64* const* ppSrc, int32 srcRoiShift, int32 
                           int32 valStride0, float64* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 len,
                           int32 count)
 {
-    const Vaca<float64, P> x{
+    const CombineVaca<float64, P> x{
         {ppSrc, srcRoiShift, srcStride0}, {pVal, valStride0}, {ppDst, dstRoiShift, dstStride0}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<651>{}, ownMul_vaca_64f_P,
                  ownOMP_zepmMul_vaca_64f_P);

@@ -5,23 +5,23 @@
 namespace zepm
 {
 
-Status ownOMP_zepmMul_vaca_32f(const Vaca<float32, S>& x)
+Status ownOMP_zepmMul_vaca_32f(const CombineVaca<float32, S>& x)
 {
     return shareObjects(x, ownMul_vaca_32f_Packed, ownMul_vaca_32f_Strided);
 }
-Status ownOMP_zepmMul_vaca_32f_L(const Vaca<float32, L>& x)
+Status ownOMP_zepmMul_vaca_32f_L(const CombineVaca<float32, L>& x)
 {
     return shareObjects(x, ownMul_vaca_32f_L_Packed, ownMul_vaca_32f_L_Strided);
 }
-Status ownOMP_zepmMul_vaca_32f_P(const Vaca<float32, P>& x) { return shareObjects(x, ownMul_vaca_32f_P); }
-Status ownOMP_zepmMul_vaca_64f(const Vaca<float64, S>& x)
+Status ownOMP_zepmMul_vaca_32f_P(const CombineVaca<float32, P>& x) { return shareObjects(x, ownMul_vaca_32f_P); }
+Status ownOMP_zepmMul_vaca_64f(const CombineVaca<float64, S>& x)
 {
     return shareObjects(x, ownMul_vaca_64f_Packed, ownMul_vaca_64f_Strided);
 }
-Status ownOMP_zepmMul_vaca_64f_L(const Vaca<float64, L>& x)
+Status ownOMP_zepmMul_vaca_64f_L(const CombineVaca<float64, L>& x)
 {
     return shareObjects(x, ownMul_vaca_64f_L_Packed, ownMul_vaca_64f_L_Strided);
 }
-Status ownOMP_zepmMul_vaca_64f_P(const Vaca<float64, P>& x) { return shareObjects(x, ownMul_vaca_64f_P); }
+Status ownOMP_zepmMul_vaca_64f_P(const CombineVaca<float64, P>& x) { return shareObjects(x, ownMul_vaca_64f_P); }
 
 } // namespace zepm

@@ -6,28 +6,28 @@
 namespace zepm
 {
 
-Status ownSub_cav_32f_Packed(const Vca<float32, S>& x) { return combinePacked(MinusFrom{}, x); }
-Status ownSub_cav_32f_Strided(const Vca<float32, S>& x)
+Status ownSub_cav_32f_Packed(const CombineVca<float32, S>& x) { return combinePacked(MinusFrom{}, x); }
+Status ownSub_cav_32f_Strided(const CombineVca<float32, S>& x)
 {
     return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
 }
-Status ownSub_cav_32f_L_Packed(const Vca<float32, L>& x) { return combinePacked(MinusFrom{}, x); }
-Status ownSub_cav_32f_L_Strided(const Vca<float32, L>& x)
+Status ownSub_cav_32f_L_Packed(const CombineVca<float32, L>& x) { return combinePacked(MinusFrom{}, x); }
+Status ownSub_cav_32f_L_Strided(const CombineVca<float32, L>& x)
 {
     return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
 }
-Status ownSub_cav_32f_P(const Vca<float32, P>& x) { return combineTable(MinusFrom{}, x); }
-Status ownSub_cav_64f_Packed(const Vca<float64, S>& x) { return combinePacked(MinusFrom{}, x); }
-Status ownSub_cav_64f_Strided(const Vca<float64, S>& x)
+Status ownSub_cav_32f_P(const CombineVca<float32, P>& x) { return combineTable(MinusFrom{}, x); }
+Status ownSub_cav_64f_Packed(const CombineVca<float64, S>& x) { return combinePacked(MinusFrom{}, x); }
+Status ownSub_cav_64f_Strided(const CombineVca<float64, S>& x)
 {
     return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
 }
-Status ownSub_cav_64f_L_Packed(const Vca<float64, L>& x) { return combinePacked(MinusFrom{}, x); }
-Status ownSub_cav_64f_L_Strided(const Vca<float64, L>& x)
+Status ownSub_cav_64f_L_Packed(const CombineVca<float64, L>& x) { return combinePacked(MinusFrom{}, x); }
+Status ownSub_cav_64f_L_Strided(const CombineVca<float64, L>& x)
 {
     return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
 }
-Status ownSub_cav_64f_P(const Vca<float64, P>& x) { return combineTable(MinusFrom{}, x); }
+Status ownSub_cav_64f_P(const CombineVca<float64, P>& x) { return combineTable(MinusFrom{}, x); }
 
 } // namespace zepm
 
@@ -36,7 +36,7 @@ using namespace zepm;
 Status zepmSub_cav_32f(const float32* pSrc, int32 srcStride2, const float32* pVal, int32 valStride0, float32* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    Vca<float32, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    CombineVca<float32, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
     return enterDense(MinusFrom{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{},
                       ownSub_cav_32f_Packed, ownSub_cav_32f_Strided, ownOMP_zepmSub_cav_32f);
 }
@@ -44,7 +44,8 @@ Status zepmSub_cav_32f(const float32* pSrc, int32 srcStride2, const float32* pVa
 Status zepmSub_cav_32f_L(const float32* pSrc, int32 srcStride2, const float32* const* ppVal, int32 valRoiShift,
                          float32* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 len, int32 count)
 {
-    const Vca<float32, L> x{{pSrc, srcStride2}, {ppVal, valRoiShift}, {ppDst, dstRoiShift, dstStride2}, len, count};
+    const CombineVca<float32, L> x{
+        {pSrc, srcStride2}, {ppVal, valRoiShift}, {ppDst, dstRoiShift, dstStride2}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2501>{}, ownSub_cav_32f_L_Packed,
                  ownSub_cav_32f_L_Strided, ownOMP_zepmSub_cav_32f_L);
 }
@@ -52,7 +53,8 @@ Status zepmSub_cav_32f_L(const float32* pSrc, int32 srcStride2, const float32* c
 Status zepmSub_cav_32f_P(const float32* const* ppSrc, int32 srcRoiShift, const float32* pVal, int32 valStride0,
                          float32* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 len, int32 count)
 {
-    const Vca<float32, P> x{{ppSrc, srcRoiShift}, {pVal, valStride0}, {ppDst, dstRoiShift, dstStride0}, len, count};
+    const CombineVca<float32, P> x{
+        {ppSrc, srcRoiShift}, {pVal, valStride0}, {ppDst, dstRoiShift, dstStride0}, len, count};
     // Its shifts are not tested.
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1501>{}, ownSub_cav_32f_P,
                  ownOMP_zepmSub_cav_32f_P);
@@ -61,7 +63,7 @@ Status zepmSub_cav_32f_P(const float32* const* ppSrc, int32 srcRoiShift, const f
 Status zepmSub_cav_64f(const float64* pSrc, int32 srcStride2, const float64* pVal, int32 valStride0, float64* pDst,
                        int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    Vca<float64, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    CombineVca<float64, S> x{{pSrc, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
     return enterDense(MinusFrom{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{},
                       ownSub_cav_64f_Packed, ownSub_cav_64f_Strided, ownOMP_zepmSub_cav_64f);
 }
@@ -69,7 +71,8 @@ Status zepmSub_cav_64f(const float64* pSrc, int32 srcStride2, const float64* pVa
 Status zepmSub_cav_64f_L(const float64* pSrc, int32 srcStride2, const float64* const* ppVal, int32 valRoiShift,
                          float64* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 len, int32 count)
 {
-    const Vca<float64, L> x{{pSrc, srcStride2}, {ppVal, valRoiShift}, {ppDst, dstRoiShift, dstStride2}, len, count};
+    const CombineVca<float64, L> x{
+        {pSrc, srcStride2}, {ppVal, valRoiShift}, {ppDst, dstRoiShift, dstStride2}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2501>{}, ownSub_cav_64f_L_Packed,
                  ownSub_cav_64f_L_Strided, ownOMP_zepmSub_cav_64f_L);
 }
@@ -77,7 +80,8 @@ Status zepmSub_cav_64f_L(const float64* pSrc, int32 srcStride2, const float64* c
 Status zepmSub_cav_64f_P(const float64* const* ppSrc, int32 srcRoiShift, const float64* pVal, int32 valStride0,
                          float64* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 len, int32 count)
 {
-    const Vca<float64, P> x{{ppSrc, srcRoiShift}, {pVal, valStride0}, {ppDst, dstRoiShift, dstStride0}, len, count};
+    const CombineVca<float64, P> x{
+        {ppSrc, srcRoiShift}, {pVal, valStride0}, {ppDst, dstRoiShift, dstStride0}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1501>{}, ownSub_cav_64f_P,
                  ownOMP_zepmSub_cav_64f_P);
 }

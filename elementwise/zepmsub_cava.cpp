@@ -6,28 +6,28 @@
 namespace zepm
 {
 
-Status ownSub_cava_32f_Packed(const Vaca<float32, S>& x) { return combinePacked(MinusFrom{}, x); }
-Status ownSub_cava_32f_Strided(const Vaca<float32, S>& x)
+Status ownSub_cava_32f_Packed(const CombineVaca<float32, S>& x) { return combinePacked(MinusFrom{}, x); }
+Status ownSub_cava_32f_Strided(const CombineVaca<float32, S>& x)
 {
     return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
 }
-Status ownSub_cava_32f_L_Packed(const Vaca<float32, L>& x) { return combinePacked(MinusFrom{}, x); }
-Status ownSub_cava_32f_L_Strided(const Vaca<float32, L>& x)
+Status ownSub_cava_32f_L_Packed(const CombineVaca<float32, L>& x) { return combinePacked(MinusFrom{}, x); }
+Status ownSub_cava_32f_L_Strided(const CombineVaca<float32, L>& x)
 {
     return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
 }
-Status ownSub_cava_32f_P(const Vaca<float32, P>& x) { return combineTable(MinusFrom{}, x); }
-Status ownSub_cava_64f_Packed(const Vaca<float64, S>& x) { return combinePacked(MinusFrom{}, x); }
-Status ownSub_cava_64f_Strided(const Vaca<float64, S>& x)
+Status ownSub_cava_32f_P(const CombineVaca<float32, P>& x) { return combineTable(MinusFrom{}, x); }
+Status ownSub_cava_64f_Packed(const CombineVaca<float64, S>& x) { return combinePacked(MinusFrom{}, x); }
+Status ownSub_cava_64f_Strided(const CombineVaca<float64, S>& x)
 {
     return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
 }
-Status ownSub_cava_64f_L_Packed(const Vaca<float64, L>& x) { return combinePacked(MinusFrom{}, x); }
-Status ownSub_cava_64f_L_Strided(const Vaca<float64, L>& x)
+Status ownSub_cava_64f_L_Packed(const CombineVaca<float64, L>& x) { return combinePacked(MinusFrom{}, x); }
+Status ownSub_cava_64f_L_Strided(const CombineVaca<float64, L>& x)
 {
     return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
 }
-Status ownSub_cava_64f_P(const Vaca<float64, P>& x) { return combineTable(MinusFrom{}, x); }
+Status ownSub_cava_64f_P(const CombineVaca<float64, P>& x) { return combineTable(MinusFrom{}, x); }
 
 } // namespace zepm
 
@@ -36,7 +36,8 @@ using namespace zepm;
 Status zepmSub_cava_32f(const float32* pSrc, int32 srcStride0, int32 srcStride2, const float32* pVal, int32 valStride0,
                         float32* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    Vaca<float32, S> x{{pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    CombineVaca<float32, S> x{
+        {pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
     return enterDense(MinusFrom{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{},
                       ownSub_cava_32f_Packed, ownSub_cava_32f_Strided, ownOMP_zepmSub_cava_32f);
 }
@@ -45,7 +46,7 @@ Status zepmSub_cava_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 
                           int32 valRoiShift, float32* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 len,
                           int32 count)
 {
-    const Vaca<float32, L> x{
+    const CombineVaca<float32, L> x{
         {ppSrc, srcRoiShift, srcStride2}, {ppVal, valRoiShift}, {ppDst, dstRoiShift, dstStride2}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2501>{}, ownSub_cava_32f_L_Packed,
                  ownSub_cava_32f_L_Strided, ownOMP_zepmSub_cava_32f_L);
@@ -55,7 +56,7 @@ Status zepmSub_cava_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 
                           int32 valStride0, float32* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 len,
                           int32 count)
 {
-    const Vaca<float32, P> x{
+    const CombineVaca<float32, P> x{
         {ppSrc, srcRoiShift, srcStride0}, {pVal, valStride0}, {ppDst, dstRoiShift, dstStride0}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1501>{}, ownSub_cava_32f_P,
                  ownOMP_zepmSub_cava_32f_P);
@@ -64,7 +65,8 @@ Status zepmSub_cava_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 
 Status zepmSub_cava_64f(const float64* pSrc, int32 srcStride0, int32 srcStride2, const float64* pVal, int32 valStride0,
                         float64* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    Vaca<float64, S> x{{pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
+    CombineVaca<float64, S> x{
+        {pSrc, srcStride0, srcStride2}, {pVal, valStride0}, {pDst, dstStride0, dstStride2}, len, count};
     return enterDense(MinusFrom{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{},
                       ownSub_cava_64f_Packed, ownSub_cava_64f_Strided, ownOMP_zepmSub_cava_64f);
 }
@@ -73,7 +75,7 @@ Status zepmSub_cava_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 
                           int32 valRoiShift, float64* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 len,
                           int32 count)
 {
-    const Vaca<float64, L> x{
+    const CombineVaca<float64, L> x{
         {ppSrc, srcRoiShift, srcStride2}, {ppVal, valRoiShift}, {ppDst, dstRoiShift, dstStride2}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2501>{}, ownSub_cava_64f_L_Packed,
                  ownSub_cava_64f_L_Strided, ownOMP_zepmSub_cava_64f_L);
@@ -83,7 +85,7 @@ Status zepmSub_cava_64f_P(const float64* const* ppSrc, int32 srcRoiShift, int32 
                           int32 valStride0, float64* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 len,
                           int32 count)
 {
-    const Vaca<float64, P> x{
+    const CombineVaca<float64, P> x{
         {ppSrc, srcRoiShift, srcStride0}, {pVal, valStride0}, {ppDst, dstRoiShift, dstStride0}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1501>{}, ownSub_cava_64f_P,
                  ownOMP_zepmSub_cava_64f_P);

@@ -5,23 +5,23 @@
 namespace zepm
 {
 
-Status ownOMP_zepmSub_mama_32f(const Mama<float32, S>& x)
+Status ownOMP_zepmSub_mama_32f(const CombineMama<float32, S>& x)
 {
     return shareObjects(x, ownSub_mama_32f_Packed, ownSub_mama_32f_Strided);
 }
-Status ownOMP_zepmSub_mama_32f_L(const Mama<float32, L>& x)
+Status ownOMP_zepmSub_mama_32f_L(const CombineMama<float32, L>& x)
 {
     return shareObjects(x, ownSub_mama_32f_L_Packed, ownSub_mama_32f_L_Strided);
 }
-Status ownOMP_zepmSub_mama_32f_P(const Mama<float32, P>& x) { return shareObjects(x, ownSub_mama_32f_P); }
-Status ownOMP_zepmSub_mama_64f(const Mama<float64, S>& x)
+Status ownOMP_zepmSub_mama_32f_P(const CombineMama<float32, P>& x) { return shareObjects(x, ownSub_mama_32f_P); }
+Status ownOMP_zepmSub_mama_64f(const CombineMama<float64, S>& x)
 {
     return shareObjects(x, ownSub_mama_64f_Packed, ownSub_mama_64f_Strided);
 }
-Status ownOMP_zepmSub_mama_64f_L(const Mama<float64, L>& x)
+Status ownOMP_zepmSub_mama_64f_L(const CombineMama<float64, L>& x)
 {
     return shareObjects(x, ownSub_mama_64f_L_Packed, ownSub_mama_64f_L_Strided);
 }
-Status ownOMP_zepmSub_mama_64f_P(const Mama<float64, P>& x) { return shareObjects(x, ownSub_mama_64f_P); }
+Status ownOMP_zepmSub_mama_64f_P(const CombineMama<float64, P>& x) { return shareObjects(x, ownSub_mama_64f_P); }
 
 } // namespace zepm

@@ -6,16 +6,19 @@
 namespace zepm
 {
 
-Status ownSub_mata_32f_Packed(const Mata<float32, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mata_32f_Strided(const Mata<float32, S>& x) { return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownSub_mata_32f_L_Packed(const Mata<float32, L>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mata_32f_L_Strided(const Mata<float32, L>& x) { return combineStrided(Minus{}, x); }
-Status ownSub_mata_32f_P(const Mata<float32, P>& x) { return combineTable(Minus{}, x); }
-Status ownSub_mata_64f_Packed(const Mata<float64, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mata_64f_Strided(const Mata<float64, S>& x) { return combineStrided(Minus{}, x); }
-Status ownSub_mata_64f_L_Packed(const Mata<float64, L>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mata_64f_L_Strided(const Mata<float64, L>& x) { return combineStrided(Minus{}, x); }
-Status ownSub_mata_64f_P(const Mata<float64, P>& x) { return combineTable(Minus{}, x); }
+Status ownSub_mata_32f_Packed(const CombineMata<float32, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_mata_32f_Strided(const CombineMata<float32, S>& x)
+{
+    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownSub_mata_32f_L_Packed(const CombineMata<float32, L>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_mata_32f_L_Strided(const CombineMata<float32, L>& x) { return combineStrided(Minus{}, x); }
+Status ownSub_mata_32f_P(const CombineMata<float32, P>& x) { return combineTable(Minus{}, x); }
+Status ownSub_mata_64f_Packed(const CombineMata<float64, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_mata_64f_Strided(const CombineMata<float64, S>& x) { return combineStrided(Minus{}, x); }
+Status ownSub_mata_64f_L_Packed(const CombineMata<float64, L>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_mata_64f_L_Strided(const CombineMata<float64, L>& x) { return combineStrided(Minus{}, x); }
+Status ownSub_mata_64f_P(const CombineMata<float64, P>& x) { return combineTable(Minus{}, x); }
 
 } // namespace zepm
 
@@ -25,12 +28,12 @@ Status zepmSub_mata_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Strid
                         const float32* pSrc2, int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float32* pDst,
                         int32 dstStride0, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mata<float32, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
-                             {pSrc2, src2Stride0, src2Stride1, src2Stride2},
-                             {pDst, dstStride0, dstStride1, dstStride2},
-                             width,
-                             height,
-                             count};
+    const CombineMata<float32, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
+                                    {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                                    {pDst, dstStride0, dstStride1, dstStride2},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3000, 2000>{}, ownSub_mata_32f_Packed,
                  ownSub_mata_32f_Strided, ownOMP_zepmSub_mata_32f);
 }
@@ -40,12 +43,12 @@ Status zepmSub_mata_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int3
                           float32* const* ppDst, int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width,
                           int32 height, int32 count)
 {
-    const Mata<float32, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
-                             {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
-                             {ppDst, dstRoiShift, dstStride1, dstStride2},
-                             width,
-                             height,
-                             count};
+    const CombineMata<float32, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
+                                    {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
+                                    {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_mata_32f_L_Packed,
                  ownSub_mata_32f_L_Strided, ownOMP_zepmSub_mata_32f_L);
 }
@@ -54,12 +57,12 @@ Status zepmSub_mata_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int3
                           const float32* const* ppSrc2, int32 src2RoiShift, int32 src2Stride0, float32* const* ppDst,
                           int32 dstRoiShift, int32 dstStride0, int32 width, int32 height, int32 count)
 {
-    const Mata<float32, P> x{{ppSrc1, src1RoiShift, src1Stride0},
-                             {ppSrc2, src2RoiShift, src2Stride0},
-                             {ppDst, dstRoiShift, dstStride0},
-                             width,
-                             height,
-                             count};
+    const CombineMata<float32, P> x{{ppSrc1, src1RoiShift, src1Stride0},
+                                    {ppSrc2, src2RoiShift, src2Stride0},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_mata_32f_P,
                  ownOMP_zepmSub_mata_32f_P);
 }
@@ -68,12 +71,12 @@ Status zepmSub_mata_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Strid
                         const float64* pSrc2, int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float64* pDst,
                         int32 dstStride0, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mata<float64, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
-                             {pSrc2, src2Stride0, src2Stride1, src2Stride2},
-                             {pDst, dstStride0, dstStride1, dstStride2},
-                             width,
-                             height,
-                             count};
+    const CombineMata<float64, S> x{{pSrc1, src1Stride0, src1Stride1, src1Stride2},
+                                    {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                                    {pDst, dstStride0, dstStride1, dstStride2},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2000>{}, ownSub_mata_64f_Packed,
                  ownSub_mata_64f_Strided, ownOMP_zepmSub_mata_64f);
 }
@@ -83,12 +86,12 @@ Status zepmSub_mata_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int3
                           float64* const* ppDst, int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width,
                           int32 height, int32 count)
 {
-    const Mata<float64, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
-                             {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
-                             {ppDst, dstRoiShift, dstStride1, dstStride2},
-                             width,
-                             height,
-                             count};
+    const CombineMata<float64, L> x{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2},
+                                    {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
+                                    {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_mata_64f_L_Packed,
                  ownSub_mata_64f_L_Strided, ownOMP_zepmSub_mata_64f_L);
 }
@@ -97,12 +100,12 @@ Status zepmSub_mata_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int3
                           const float64* const* ppSrc2, int32 src2RoiShift, int32 src2Stride0, float64* const* ppDst,
                           int32 dstRoiShift, int32 dstStride0, int32 width, int32 height, int32 count)
 {
-    const Mata<float64, P> x{{ppSrc1, src1RoiShift, src1Stride0},
-                             {ppSrc2, src2RoiShift, src2Stride0},
-                             {ppDst, dstRoiShift, dstStride0},
-                             width,
-                             height,
-                             count};
+    const CombineMata<float64, P> x{{ppSrc1, src1RoiShift, src1Stride0},
+                                    {ppSrc2, src2RoiShift, src2Stride0},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    width,
+                                    height,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_mata_64f_P,
                  ownOMP_zepmSub_mata_64f_P);
 }

@@ -6,16 +6,22 @@
 namespace zepm
 {
 
-Status ownSub_mma_32f_Packed(const Mma<float32, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mma_32f_Strided(const Mma<float32, S>& x) { return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownSub_mma_32f_L_Packed(const Mma<float32, L>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mma_32f_L_Strided(const Mma<float32, L>& x) { return forEachObject(x, ownSub_mm_32f_Strided); }
-Status ownSub_mma_32f_P(const Mma<float32, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownSub_mma_64f_Packed(const Mma<float64, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mma_64f_Strided(const Mma<float64, S>& x) { return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownSub_mma_64f_L_Packed(const Mma<float64, L>& x) { return forEachObject(x, ownSub_mm_64f_Packed); }
-Status ownSub_mma_64f_L_Strided(const Mma<float64, L>& x) { return forEachObject(x, ownSub_mm_64f_Strided); }
-Status ownSub_mma_64f_P(const Mma<float64, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_mma_32f_Packed(const CombineMma<float32, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_mma_32f_Strided(const CombineMma<float32, S>& x)
+{
+    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownSub_mma_32f_L_Packed(const CombineMma<float32, L>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_mma_32f_L_Strided(const CombineMma<float32, L>& x) { return forEachObject(x, ownSub_mm_32f_Strided); }
+Status ownSub_mma_32f_P(const CombineMma<float32, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_mma_64f_Packed(const CombineMma<float64, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_mma_64f_Strided(const CombineMma<float64, S>& x)
+{
+    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownSub_mma_64f_L_Packed(const CombineMma<float64, L>& x) { return forEachObject(x, ownSub_mm_64f_Packed); }
+Status ownSub_mma_64f_L_Strided(const CombineMma<float64, L>& x) { return forEachObject(x, ownSub_mm_64f_Strided); }
+Status ownSub_mma_64f_P(const CombineMma<float64, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -25,12 +31,12 @@ Status zepmSub_mma_32f(const float32* pSrc1, int32 src1Stride1, int32 src1Stride
                        int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float32* pDst, int32 dstStride0,
                        int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    Mma<float32, S> x{{pSrc1, src1Stride1, src1Stride2},
-                      {pSrc2, src2Stride0, src2Stride1, src2Stride2},
-                      {pDst, dstStride0, dstStride1, dstStride2},
-                      width,
-                      height,
-                      count};
+    CombineMma<float32, S> x{{pSrc1, src1Stride1, src1Stride2},
+                             {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                             {pDst, dstStride0, dstStride1, dstStride2},
+                             width,
+                             height,
+                             count};
     // The strides before the sizes.
     return enterDense(Minus{}, x, order<Pointers, Count, Strides, Sizes>{}, parallelFrom<3000, 2000>{},
                       ownSub_mma_32f_Packed, ownSub_mma_32f_Strided, ownOMP_zepmSub_mma_32f);
@@ -40,12 +46,12 @@ Status zepmSub_mma_32f_L(const float32* pSrc1, int32 src1Stride1, int32 src1Stri
                          int32 src2RoiShift, int32 src2Stride1, int32 src2Stride2, float32* const* ppDst,
                          int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mma<float32, L> x{{pSrc1, src1Stride1, src1Stride2},
-                            {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineMma<float32, L> x{{pSrc1, src1Stride1, src1Stride2},
+                                   {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
+                                   {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_mma_32f_L_Packed,
                  ownSub_mma_32f_L_Strided, ownOMP_zepmSub_mma_32f_L);
 }
@@ -54,12 +60,12 @@ Status zepmSub_mma_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, const
                          int32 src2RoiShift, int32 src2Stride0, float32* const* ppDst, int32 dstRoiShift,
                          int32 dstStride0, int32 width, int32 height, int32 count)
 {
-    const Mma<float32, P> x{{ppSrc1, src1RoiShift},
-                            {ppSrc2, src2RoiShift, src2Stride0},
-                            {ppDst, dstRoiShift, dstStride0},
-                            width,
-                            height,
-                            count};
+    const CombineMma<float32, P> x{{ppSrc1, src1RoiShift},
+                                   {ppSrc2, src2RoiShift, src2Stride0},
+                                   {ppDst, dstRoiShift, dstStride0},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_mma_32f_P,
                  ownOMP_zepmSub_mma_32f_P);
 }
@@ -68,12 +74,12 @@ Status zepmSub_mma_64f(const float64* pSrc1, int32 src1Stride1, int32 src1Stride
                        int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float64* pDst, int32 dstStride0,
                        int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    Mma<float64, S> x{{pSrc1, src1Stride1, src1Stride2},
-                      {pSrc2, src2Stride0, src2Stride1, src2Stride2},
-                      {pDst, dstStride0, dstStride1, dstStride2},
-                      width,
-                      height,
-                      count};
+    CombineMma<float64, S> x{{pSrc1, src1Stride1, src1Stride2},
+                             {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                             {pDst, dstStride0, dstStride1, dstStride2},
+                             width,
+                             height,
+                             count};
     // The strides before the sizes.
     return enterDense(Minus{}, x, order<Pointers, Count, Strides, Sizes>{}, parallelFrom<2000>{}, ownSub_mma_64f_Packed,
                       ownSub_mma_64f_Strided, ownOMP_zepmSub_mma_64f);
@@ -83,12 +89,12 @@ Status zepmSub_mma_64f_L(const float64* pSrc1, int32 src1Stride1, int32 src1Stri
                          int32 src2RoiShift, int32 src2Stride1, int32 src2Stride2, float64* const* ppDst,
                          int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Mma<float64, L> x{{pSrc1, src1Stride1, src1Stride2},
-                            {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineMma<float64, L> x{{pSrc1, src1Stride1, src1Stride2},
+                                   {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
+                                   {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_mma_64f_L_Packed,
                  ownSub_mma_64f_L_Strided, ownOMP_zepmSub_mma_64f_L);
 }
@@ -97,12 +103,12 @@ Status zepmSub_mma_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, const
                          int32 src2RoiShift, int32 src2Stride0, float64* const* ppDst, int32 dstRoiShift,
                          int32 dstStride0, int32 width, int32 height, int32 count)
 {
-    const Mma<float64, P> x{{ppSrc1, src1RoiShift},
-                            {ppSrc2, src2RoiShift, src2Stride0},
-                            {ppDst, dstRoiShift, dstStride0},
-                            width,
-                            height,
-                            count};
+    const CombineMma<float64, P> x{{ppSrc1, src1RoiShift},
+                                   {ppSrc2, src2RoiShift, src2Stride0},
+                                   {ppDst, dstRoiShift, dstStride0},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_mma_64f_P,
                  ownOMP_zepmSub_mma_64f_P);
 }

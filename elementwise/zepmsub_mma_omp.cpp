@@ -5,23 +5,23 @@
 namespace zepm
 {
 
-Status ownOMP_zepmSub_mma_32f(const Mma<float32, S>& x)
+Status ownOMP_zepmSub_mma_32f(const CombineMma<float32, S>& x)
 {
     return shareObjects(x, ownSub_mma_32f_Packed, ownSub_mma_32f_Strided);
 }
-Status ownOMP_zepmSub_mma_32f_L(const Mma<float32, L>& x)
+Status ownOMP_zepmSub_mma_32f_L(const CombineMma<float32, L>& x)
 {
     return shareObjects(x, ownSub_mma_32f_L_Packed, ownSub_mma_32f_L_Strided);
 }
-Status ownOMP_zepmSub_mma_32f_P(const Mma<float32, P>& x) { return shareObjects(x, ownSub_mma_32f_P); }
-Status ownOMP_zepmSub_mma_64f(const Mma<float64, S>& x)
+Status ownOMP_zepmSub_mma_32f_P(const CombineMma<float32, P>& x) { return shareObjects(x, ownSub_mma_32f_P); }
+Status ownOMP_zepmSub_mma_64f(const CombineMma<float64, S>& x)
 {
     return shareObjects(x, ownSub_mma_64f_Packed, ownSub_mma_64f_Strided);
 }
-Status ownOMP_zepmSub_mma_64f_L(const Mma<float64, L>& x)
+Status ownOMP_zepmSub_mma_64f_L(const CombineMma<float64, L>& x)
 {
     return shareObjects(x, ownSub_mma_64f_L_Packed, ownSub_mma_64f_L_Strided);
 }
-Status ownOMP_zepmSub_mma_64f_P(const Mma<float64, P>& x) { return shareObjects(x, ownSub_mma_64f_P); }
+Status ownOMP_zepmSub_mma_64f_P(const CombineMma<float64, P>& x) { return shareObjects(x, ownSub_mma_64f_P); }
 
 } // namespace zepm

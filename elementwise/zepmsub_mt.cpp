@@ -6,12 +6,18 @@
 namespace zepm
 {
 
-Status ownSub_mt_32f_Packed(const Mt<float32, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mt_32f_Strided(const Mt<float32, S>& x) { return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownSub_mt_32f_P(const Mt<float32, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownSub_mt_64f_Packed(const Mt<float64, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mt_64f_Strided(const Mt<float64, S>& x) { return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownSub_mt_64f_P(const Mt<float64, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_mt_32f_Packed(const CombineMt<float32, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_mt_32f_Strided(const CombineMt<float32, S>& x)
+{
+    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownSub_mt_32f_P(const CombineMt<float32, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_mt_64f_Packed(const CombineMt<float64, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_mt_64f_Strided(const CombineMt<float64, S>& x)
+{
+    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownSub_mt_64f_P(const CombineMt<float64, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -21,18 +27,18 @@ Status zepmSub_mt_32f(const float32* pSrc1, int32 src1Stride1, int32 src1Stride2
                       int32 src2Stride1, int32 src2Stride2, float32* pDst, int32 dstStride1, int32 dstStride2,
                       int32 width, int32 height)
 {
-    const Mt<float32, S> x{{pSrc1, src1Stride1, src1Stride2},
-                           {pSrc2, src2Stride1, src2Stride2},
-                           {pDst, dstStride1, dstStride2},
-                           width,
-                           height};
+    const CombineMt<float32, S> x{{pSrc1, src1Stride1, src1Stride2},
+                                  {pSrc2, src2Stride1, src2Stride2},
+                                  {pDst, dstStride1, dstStride2},
+                                  width,
+                                  height};
     return enter(x, order<Pointers, Sizes, Strides>{}, ownSub_mt_32f_Packed, ownSub_mt_32f_Strided);
 }
 
 Status zepmSub_mt_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, const float32* const* ppSrc2,
                         int32 src2RoiShift, float32* const* ppDst, int32 dstRoiShift, int32 width, int32 height)
 {
-    const Mt<float32, P> x{{ppSrc1, src1RoiShift}, {ppSrc2, src2RoiShift}, {ppDst, dstRoiShift}, width, height};
+    const CombineMt<float32, P> x{{ppSrc1, src1RoiShift}, {ppSrc2, src2RoiShift}, {ppDst, dstRoiShift}, width, height};
     return enter(x, order<Pointers, Sizes, RoiShifts>{}, ownSub_mt_32f_P);
 }
 
@@ -40,17 +46,17 @@ Status zepmSub_mt_64f(const float64* pSrc1, int32 src1Stride1, int32 src1Stride2
                       int32 src2Stride1, int32 src2Stride2, float64* pDst, int32 dstStride1, int32 dstStride2,
                       int32 width, int32 height)
 {
-    const Mt<float64, S> x{{pSrc1, src1Stride1, src1Stride2},
-                           {pSrc2, src2Stride1, src2Stride2},
-                           {pDst, dstStride1, dstStride2},
-                           width,
-                           height};
+    const CombineMt<float64, S> x{{pSrc1, src1Stride1, src1Stride2},
+                                  {pSrc2, src2Stride1, src2Stride2},
+                                  {pDst, dstStride1, dstStride2},
+                                  width,
+                                  height};
     return enter(x, order<Pointers, Sizes, Strides>{}, ownSub_mt_64f_Packed, ownSub_mt_64f_Strided);
 }
 
 Status zepmSub_mt_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, const float64* const* ppSrc2,
                         int32 src2RoiShift, float64* const* ppDst, int32 dstRoiShift, int32 width, int32 height)
 {
-    const Mt<float64, P> x{{ppSrc1, src1RoiShift}, {ppSrc2, src2RoiShift}, {ppDst, dstRoiShift}, width, height};
+    const CombineMt<float64, P> x{{ppSrc1, src1RoiShift}, {ppSrc2, src2RoiShift}, {ppDst, dstRoiShift}, width, height};
     return enter(x, order<Pointers, Sizes, RoiShifts>{}, ownSub_mt_64f_P);
 }

@@ -5,23 +5,23 @@
 namespace zepm
 {
 
-Status ownOMP_zepmSub_mta_32f(const Mta<float32, S>& x)
+Status ownOMP_zepmSub_mta_32f(const CombineMta<float32, S>& x)
 {
     return shareObjects(x, ownSub_mta_32f_Packed, ownSub_mta_32f_Strided);
 }
-Status ownOMP_zepmSub_mta_32f_L(const Mta<float32, L>& x)
+Status ownOMP_zepmSub_mta_32f_L(const CombineMta<float32, L>& x)
 {
     return shareObjects(x, ownSub_mta_32f_L_Packed, ownSub_mta_32f_L_Strided);
 }
-Status ownOMP_zepmSub_mta_32f_P(const Mta<float32, P>& x) { return shareObjects(x, ownSub_mta_32f_P); }
-Status ownOMP_zepmSub_mta_64f(const Mta<float64, S>& x)
+Status ownOMP_zepmSub_mta_32f_P(const CombineMta<float32, P>& x) { return shareObjects(x, ownSub_mta_32f_P); }
+Status ownOMP_zepmSub_mta_64f(const CombineMta<float64, S>& x)
 {
     return shareObjects(x, ownSub_mta_64f_Packed, ownSub_mta_64f_Strided);
 }
-Status ownOMP_zepmSub_mta_64f_L(const Mta<float64, L>& x)
+Status ownOMP_zepmSub_mta_64f_L(const CombineMta<float64, L>& x)
 {
     return shareObjects(x, ownSub_mta_64f_L_Packed, ownSub_mta_64f_L_Strided);
 }
-Status ownOMP_zepmSub_mta_64f_P(const Mta<float64, P>& x) { return shareObjects(x, ownSub_mta_64f_P); }
+Status ownOMP_zepmSub_mta_64f_P(const CombineMta<float64, P>& x) { return shareObjects(x, ownSub_mta_64f_P); }
 
 } // namespace zepm

@@ -5,23 +5,23 @@
 namespace zepm
 {
 
-Status ownOMP_zepmSub_tama_32f(const Tama<float32, S>& x)
+Status ownOMP_zepmSub_tama_32f(const CombineTama<float32, S>& x)
 {
     return shareObjects(x, ownSub_tama_32f_Packed, ownSub_tama_32f_Strided);
 }
-Status ownOMP_zepmSub_tama_32f_L(const Tama<float32, L>& x)
+Status ownOMP_zepmSub_tama_32f_L(const CombineTama<float32, L>& x)
 {
     return shareObjects(x, ownSub_tama_32f_L_Packed, ownSub_tama_32f_L_Strided);
 }
-Status ownOMP_zepmSub_tama_32f_P(const Tama<float32, P>& x) { return shareObjects(x, ownSub_tama_32f_P); }
-Status ownOMP_zepmSub_tama_64f(const Tama<float64, S>& x)
+Status ownOMP_zepmSub_tama_32f_P(const CombineTama<float32, P>& x) { return shareObjects(x, ownSub_tama_32f_P); }
+Status ownOMP_zepmSub_tama_64f(const CombineTama<float64, S>& x)
 {
     return shareObjects(x, ownSub_tama_64f_Packed, ownSub_tama_64f_Strided);
 }
-Status ownOMP_zepmSub_tama_64f_L(const Tama<float64, L>& x)
+Status ownOMP_zepmSub_tama_64f_L(const CombineTama<float64, L>& x)
 {
     return shareObjects(x, ownSub_tama_64f_L_Packed, ownSub_tama_64f_L_Strided);
 }
-Status ownOMP_zepmSub_tama_64f_P(const Tama<float64, P>& x) { return shareObjects(x, ownSub_tama_64f_P); }
+Status ownOMP_zepmSub_tama_64f_P(const CombineTama<float64, P>& x) { return shareObjects(x, ownSub_tama_64f_P); }
 
 } // namespace zepm

@@ -6,16 +6,22 @@
 namespace zepm
 {
 
-Status ownSub_tma_32f_Packed(const Tma<float32, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_tma_32f_Strided(const Tma<float32, S>& x) { return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownSub_tma_32f_L_Packed(const Tma<float32, L>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_tma_32f_L_Strided(const Tma<float32, L>& x) { return forEachObject(x, ownSub_tm_32f_Strided); }
-Status ownSub_tma_32f_P(const Tma<float32, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownSub_tma_64f_Packed(const Tma<float64, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_tma_64f_Strided(const Tma<float64, S>& x) { return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownSub_tma_64f_L_Packed(const Tma<float64, L>& x) { return forEachObject(x, ownSub_tm_64f_Packed); }
-Status ownSub_tma_64f_L_Strided(const Tma<float64, L>& x) { return forEachObject(x, ownSub_tm_64f_Strided); }
-Status ownSub_tma_64f_P(const Tma<float64, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_tma_32f_Packed(const CombineTma<float32, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_tma_32f_Strided(const CombineTma<float32, S>& x)
+{
+    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownSub_tma_32f_L_Packed(const CombineTma<float32, L>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_tma_32f_L_Strided(const CombineTma<float32, L>& x) { return forEachObject(x, ownSub_tm_32f_Strided); }
+Status ownSub_tma_32f_P(const CombineTma<float32, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_tma_64f_Packed(const CombineTma<float64, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_tma_64f_Strided(const CombineTma<float64, S>& x)
+{
+    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+}
+Status ownSub_tma_64f_L_Packed(const CombineTma<float64, L>& x) { return forEachObject(x, ownSub_tm_64f_Packed); }
+Status ownSub_tma_64f_L_Strided(const CombineTma<float64, L>& x) { return forEachObject(x, ownSub_tm_64f_Strided); }
+Status ownSub_tma_64f_P(const CombineTma<float64, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -25,12 +31,12 @@ Status zepmSub_tma_32f(const float32* pSrc1, int32 src1Stride1, int32 src1Stride
                        int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float32* pDst, int32 dstStride0,
                        int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Tma<float32, S> x{{pSrc1, src1Stride1, src1Stride2},
-                            {pSrc2, src2Stride0, src2Stride1, src2Stride2},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineTma<float32, S> x{{pSrc1, src1Stride1, src1Stride2},
+                                   {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                                   {pDst, dstStride0, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<3000, 2000>{}, ownSub_tma_32f_Packed,
                  ownSub_tma_32f_Strided, ownOMP_zepmSub_tma_32f);
 }
@@ -39,12 +45,12 @@ Status zepmSub_tma_32f_L(const float32* pSrc1, int32 src1Stride1, int32 src1Stri
                          int32 src2RoiShift, int32 src2Stride1, int32 src2Stride2, float32* const* ppDst,
                          int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Tma<float32, L> x{{pSrc1, src1Stride1, src1Stride2},
-                            {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineTma<float32, L> x{{pSrc1, src1Stride1, src1Stride2},
+                                   {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
+                                   {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_tma_32f_L_Packed,
                  ownSub_tma_32f_L_Strided, ownOMP_zepmSub_tma_32f_L);
 }
@@ -53,12 +59,12 @@ Status zepmSub_tma_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, const
                          int32 src2RoiShift, int32 src2Stride0, float32* const* ppDst, int32 dstRoiShift,
                          int32 dstStride0, int32 width, int32 height, int32 count)
 {
-    const Tma<float32, P> x{{ppSrc1, src1RoiShift},
-                            {ppSrc2, src2RoiShift, src2Stride0},
-                            {ppDst, dstRoiShift, dstStride0},
-                            width,
-                            height,
-                            count};
+    const CombineTma<float32, P> x{{ppSrc1, src1RoiShift},
+                                   {ppSrc2, src2RoiShift, src2Stride0},
+                                   {ppDst, dstRoiShift, dstStride0},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_tma_32f_P,
                  ownOMP_zepmSub_tma_32f_P);
 }
@@ -67,12 +73,12 @@ Status zepmSub_tma_64f(const float64* pSrc1, int32 src1Stride1, int32 src1Stride
                        int32 src2Stride0, int32 src2Stride1, int32 src2Stride2, float64* pDst, int32 dstStride0,
                        int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Tma<float64, S> x{{pSrc1, src1Stride1, src1Stride2},
-                            {pSrc2, src2Stride0, src2Stride1, src2Stride2},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineTma<float64, S> x{{pSrc1, src1Stride1, src1Stride2},
+                                   {pSrc2, src2Stride0, src2Stride1, src2Stride2},
+                                   {pDst, dstStride0, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<2000>{}, ownSub_tma_64f_Packed,
                  ownSub_tma_64f_Strided, ownOMP_zepmSub_tma_64f);
 }
@@ -81,12 +87,12 @@ Status zepmSub_tma_64f_L(const float64* pSrc1, int32 src1Stride1, int32 src1Stri
                          int32 src2RoiShift, int32 src2Stride1, int32 src2Stride2, float64* const* ppDst,
                          int32 dstRoiShift, int32 dstStride1, int32 dstStride2, int32 width, int32 height, int32 count)
 {
-    const Tma<float64, L> x{{pSrc1, src1Stride1, src1Stride2},
-                            {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            width,
-                            height,
-                            count};
+    const CombineTma<float64, L> x{{pSrc1, src1Stride1, src1Stride2},
+                                   {ppSrc2, src2RoiShift, src2Stride1, src2Stride2},
+                                   {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_tma_64f_L_Packed,
                  ownSub_tma_64f_L_Strided, ownOMP_zepmSub_tma_64f_L);
 }
@@ -95,12 +101,12 @@ Status zepmSub_tma_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, const
                          int32 src2RoiShift, int32 src2Stride0, float64* const* ppDst, int32 dstRoiShift,
                          int32 dstStride0, int32 width, int32 height, int32 count)
 {
-    const Tma<float64, P> x{{ppSrc1, src1RoiShift},
-                            {ppSrc2, src2RoiShift, src2Stride0},
-                            {ppDst, dstRoiShift, dstStride0},
-                            width,
-                            height,
-                            count};
+    const CombineTma<float64, P> x{{ppSrc1, src1RoiShift},
+                                   {ppSrc2, src2RoiShift, src2Stride0},
+                                   {ppDst, dstRoiShift, dstStride0},
+                                   width,
+                                   height,
+                                   count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2000>{}, ownSub_tma_64f_P,
                  ownOMP_zepmSub_tma_64f_P);
 }

@@ -6,16 +6,22 @@
 namespace zepm
 {
 
-Status ownSub_vava_32f_Packed(const Vava<float32, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_vava_32f_Strided(const Vava<float32, S>& x) { return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{}); }
-Status ownSub_vava_32f_L_Packed(const Vava<float32, L>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_vava_32f_L_Strided(const Vava<float32, L>& x) { return forEachObject(x, ownSub_vv_32f_Strided); }
-Status ownSub_vava_32f_P(const Vava<float32, P>& x) { return combineTable(Minus{}, x); }
-Status ownSub_vava_64f_Packed(const Vava<float64, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_vava_64f_Strided(const Vava<float64, S>& x) { return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{}); }
-Status ownSub_vava_64f_L_Packed(const Vava<float64, L>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_vava_64f_L_Strided(const Vava<float64, L>& x) { return forEachObject(x, ownSub_vv_64f_Strided); }
-Status ownSub_vava_64f_P(const Vava<float64, P>& x) { return combineTable(Minus{}, x); }
+Status ownSub_vava_32f_Packed(const CombineVava<float32, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_vava_32f_Strided(const CombineVava<float32, S>& x)
+{
+    return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{});
+}
+Status ownSub_vava_32f_L_Packed(const CombineVava<float32, L>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_vava_32f_L_Strided(const CombineVava<float32, L>& x) { return forEachObject(x, ownSub_vv_32f_Strided); }
+Status ownSub_vava_32f_P(const CombineVava<float32, P>& x) { return combineTable(Minus{}, x); }
+Status ownSub_vava_64f_Packed(const CombineVava<float64, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_vava_64f_Strided(const CombineVava<float64, S>& x)
+{
+    return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{});
+}
+Status ownSub_vava_64f_L_Packed(const CombineVava<float64, L>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_vava_64f_L_Strided(const CombineVava<float64, L>& x) { return forEachObject(x, ownSub_vv_64f_Strided); }
+Status ownSub_vava_64f_P(const CombineVava<float64, P>& x) { return combineTable(Minus{}, x); }
 
 } // namespace zepm
 
@@ -25,11 +31,11 @@ Status zepmSub_vava_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Strid
                         int32 src2Stride0, int32 src2Stride2, float32* pDst, int32 dstStride0, int32 dstStride2,
                         int32 len, int32 count)
 {
-    Vava<float32, S> x{{pSrc1, src1Stride0, src1Stride2},
-                       {pSrc2, src2Stride0, src2Stride2},
-                       {pDst, dstStride0, dstStride2},
-                       len,
-                       count};
+    CombineVava<float32, S> x{{pSrc1, src1Stride0, src1Stride2},
+                              {pSrc2, src2Stride0, src2Stride2},
+                              {pDst, dstStride0, dstStride2},
+                              len,
+                              count};
     return enterDense(Minus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{},
                       ownSub_vava_32f_Packed, ownSub_vava_32f_Strided, ownOMP_zepmSub_vava_32f);
 }
@@ -38,11 +44,11 @@ Status zepmSub_vava_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int3
                           const float32* const* ppSrc2, int32 src2RoiShift, int32 src2Stride2, float32* const* ppDst,
                           int32 dstRoiShift, int32 dstStride2, int32 len, int32 count)
 {
-    const Vava<float32, L> x{{ppSrc1, src1RoiShift, src1Stride2},
-                             {ppSrc2, src2RoiShift, src2Stride2},
-                             {ppDst, dstRoiShift, dstStride2},
-                             len,
-                             count};
+    const CombineVava<float32, L> x{{ppSrc1, src1RoiShift, src1Stride2},
+                                    {ppSrc2, src2RoiShift, src2Stride2},
+                                    {ppDst, dstRoiShift, dstStride2},
+                                    len,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2501>{}, ownSub_vava_32f_L_Packed,
                  ownSub_vava_32f_L_Strided, ownOMP_zepmSub_vava_32f_L);
 }
@@ -51,11 +57,11 @@ Status zepmSub_vava_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int3
                           const float32* const* ppSrc2, int32 src2RoiShift, int32 src2Stride0, float32* const* ppDst,
                           int32 dstRoiShift, int32 dstStride0, int32 len, int32 count)
 {
-    const Vava<float32, P> x{{ppSrc1, src1RoiShift, src1Stride0},
-                             {ppSrc2, src2RoiShift, src2Stride0},
-                             {ppDst, dstRoiShift, dstStride0},
-                             len,
-                             count};
+    const CombineVava<float32, P> x{{ppSrc1, src1RoiShift, src1Stride0},
+                                    {ppSrc2, src2RoiShift, src2Stride0},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    len,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1501>{}, ownSub_vava_32f_P,
                  ownOMP_zepmSub_vava_32f_P);
 }
@@ -64,11 +70,11 @@ Status zepmSub_vava_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Strid
                         int32 src2Stride0, int32 src2Stride2, float64* pDst, int32 dstStride0, int32 dstStride2,
                         int32 len, int32 count)
 {
-    Vava<float64, S> x{{pSrc1, src1Stride0, src1Stride2},
-                       {pSrc2, src2Stride0, src2Stride2},
-                       {pDst, dstStride0, dstStride2},
-                       len,
-                       count};
+    CombineVava<float64, S> x{{pSrc1, src1Stride0, src1Stride2},
+                              {pSrc2, src2Stride0, src2Stride2},
+                              {pDst, dstStride0, dstStride2},
+                              len,
+                              count};
     return enterDense(Minus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{},
                       ownSub_vava_64f_Packed, ownSub_vava_64f_Strided, ownOMP_zepmSub_vava_64f);
 }
@@ -77,11 +83,11 @@ Status zepmSub_vava_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int3
                           const float64* const* ppSrc2, int32 src2RoiShift, int32 src2Stride2, float64* const* ppDst,
                           int32 dstRoiShift, int32 dstStride2, int32 len, int32 count)
 {
-    const Vava<float64, L> x{{ppSrc1, src1RoiShift, src1Stride2},
-                             {ppSrc2, src2RoiShift, src2Stride2},
-                             {ppDst, dstRoiShift, dstStride2},
-                             len,
-                             count};
+    const CombineVava<float64, L> x{{ppSrc1, src1RoiShift, src1Stride2},
+                                    {ppSrc2, src2RoiShift, src2Stride2},
+                                    {ppDst, dstRoiShift, dstStride2},
+                                    len,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2501>{}, ownSub_vava_64f_L_Packed,
                  ownSub_vava_64f_L_Strided, ownOMP_zepmSub_vava_64f_L);
 }
@@ -90,11 +96,11 @@ Status zepmSub_vava_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int3
                           const float64* const* ppSrc2, int32 src2RoiShift, int32 src2Stride0, float64* const* ppDst,
                           int32 dstRoiShift, int32 dstStride0, int32 len, int32 count)
 {
-    const Vava<float64, P> x{{ppSrc1, src1RoiShift, src1Stride0},
-                             {ppSrc2, src2RoiShift, src2Stride0},
-                             {ppDst, dstRoiShift, dstStride0},
-                             len,
-                             count};
+    const CombineVava<float64, P> x{{ppSrc1, src1RoiShift, src1Stride0},
+                                    {ppSrc2, src2RoiShift, src2Stride0},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    len,
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1501>{}, ownSub_vava_64f_P,
                  ownOMP_zepmSub_vava_64f_P);
 }

@@ -6,12 +6,12 @@
 namespace zepm
 {
 
-Status ownSub_vc_32f_Packed(const Vc<float32, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_vc_32f_Strided(const Vc<float32, S>& x) { return combineStrided(Minus{}, x); }
-Status ownSub_vc_32f_P(const Vc<float32, P>& x) { return combineTable(Minus{}, x); }
-Status ownSub_vc_64f_Packed(const Vc<float64, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_vc_64f_Strided(const Vc<float64, S>& x) { return combineStrided(Minus{}, x); }
-Status ownSub_vc_64f_P(const Vc<float64, P>& x) { return combineTable(Minus{}, x); }
+Status ownSub_vc_32f_Packed(const CombineVc<float32, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_vc_32f_Strided(const CombineVc<float32, S>& x) { return combineStrided(Minus{}, x); }
+Status ownSub_vc_32f_P(const CombineVc<float32, P>& x) { return combineTable(Minus{}, x); }
+Status ownSub_vc_64f_Packed(const CombineVc<float64, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_vc_64f_Strided(const CombineVc<float64, S>& x) { return combineStrided(Minus{}, x); }
+Status ownSub_vc_64f_P(const CombineVc<float64, P>& x) { return combineTable(Minus{}, x); }
 
 } // namespace zepm
 
@@ -19,26 +19,26 @@ using namespace zepm;
 
 Status zepmSub_vc_32f(const float32* pSrc, int32 srcStride2, float32 val, float32* pDst, int32 dstStride2, int32 len)
 {
-    const Vc<float32, S> x{{pSrc, srcStride2}, {val}, {pDst, dstStride2}, len};
+    const CombineVc<float32, S> x{{pSrc, srcStride2}, {val}, {pDst, dstStride2}, len};
     return enter(x, order<Pointers, Sizes, Strides>{}, ownSub_vc_32f_Packed, ownSub_vc_32f_Strided);
 }
 
 Status zepmSub_vc_32f_P(const float32* const* ppSrc, int32 srcRoiShift, float32 val, float32* const* ppDst,
                         int32 dstRoiShift, int32 len)
 {
-    const Vc<float32, P> x{{ppSrc, srcRoiShift}, {val}, {ppDst, dstRoiShift}, len};
+    const CombineVc<float32, P> x{{ppSrc, srcRoiShift}, {val}, {ppDst, dstRoiShift}, len};
     return enter(x, order<Pointers, Sizes, RoiShifts>{}, ownSub_vc_32f_P);
 }
 
 Status zepmSub_vc_64f(const float64* pSrc, int32 srcStride2, float64 val, float64* pDst, int32 dstStride2, int32 len)
 {
-    const Vc<float64, S> x{{pSrc, srcStride2}, {val}, {pDst, dstStride2}, len};
+    const CombineVc<float64, S> x{{pSrc, srcStride2}, {val}, {pDst, dstStride2}, len};
     return enter(x, order<Pointers, Sizes, Strides>{}, ownSub_vc_64f_Packed, ownSub_vc_64f_Strided);
 }
 
 Status zepmSub_vc_64f_P(const float64* const* ppSrc, int32 srcRoiShift, float64 val, float64* const* ppDst,
                         int32 dstRoiShift, int32 len)
 {
-    const Vc<float64, P> x{{ppSrc, srcRoiShift}, {val}, {ppDst, dstRoiShift}, len};
+    const CombineVc<float64, P> x{{ppSrc, srcRoiShift}, {val}, {ppDst, dstRoiShift}, len};
     return enter(x, order<Pointers, Sizes, RoiShifts>{}, ownSub_vc_64f_P);
 }

@@ -6,16 +6,19 @@
 namespace zepm
 {
 
-Status ownSub_vva_32f_Packed(const Vva<float32, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_vva_32f_Strided(const Vva<float32, S>& x) { return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{}); }
-Status ownSub_vva_32f_L_Packed(const Vva<float32, L>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_vva_32f_L_Strided(const Vva<float32, L>& x) { return combineStrided(Minus{}, x); }
-Status ownSub_vva_32f_P(const Vva<float32, P>& x) { return combineTable(Minus{}, x); }
-Status ownSub_vva_64f_Packed(const Vva<float64, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_vva_64f_Strided(const Vva<float64, S>& x) { return combineStrided(Minus{}, x); }
-Status ownSub_vva_64f_L_Packed(const Vva<float64, L>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_vva_64f_L_Strided(const Vva<float64, L>& x) { return combineStrided(Minus{}, x); }
-Status ownSub_vva_64f_P(const Vva<float64, P>& x) { return combineTable(Minus{}, x); }
+Status ownSub_vva_32f_Packed(const CombineVva<float32, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_vva_32f_Strided(const CombineVva<float32, S>& x)
+{
+    return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{});
+}
+Status ownSub_vva_32f_L_Packed(const CombineVva<float32, L>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_vva_32f_L_Strided(const CombineVva<float32, L>& x) { return combineStrided(Minus{}, x); }
+Status ownSub_vva_32f_P(const CombineVva<float32, P>& x) { return combineTable(Minus{}, x); }
+Status ownSub_vva_64f_Packed(const CombineVva<float64, S>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_vva_64f_Strided(const CombineVva<float64, S>& x) { return combineStrided(Minus{}, x); }
+Status ownSub_vva_64f_L_Packed(const CombineVva<float64, L>& x) { return combinePacked(Minus{}, x); }
+Status ownSub_vva_64f_L_Strided(const CombineVva<float64, L>& x) { return combineStrided(Minus{}, x); }
+Status ownSub_vva_64f_P(const CombineVva<float64, P>& x) { return combineTable(Minus{}, x); }
 
 } // namespace zepm
 
@@ -24,7 +27,7 @@ using namespace zepm;
 Status zepmSub_vva_32f(const float32* pSrc1, int32 src1Stride2, const float32* pSrc2, int32 src2Stride0,
                        int32 src2Stride2, float32* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    Vva<float32, S> x{
+    CombineVva<float32, S> x{
         {pSrc1, src1Stride2}, {pSrc2, src2Stride0, src2Stride2}, {pDst, dstStride0, dstStride2}, len, count};
     return enterDense(Minus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4801>{}, ownSub_vva_32f_Packed,
                       ownSub_vva_32f_Strided, ownOMP_zepmSub_vva_32f);
@@ -34,7 +37,7 @@ Status zepmSub_vva_32f_L(const float32* pSrc1, int32 src1Stride2, const float32*
                          int32 src2Stride2, float32* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 len,
                          int32 count)
 {
-    const Vva<float32, L> x{
+    const CombineVva<float32, L> x{
         {pSrc1, src1Stride2}, {ppSrc2, src2RoiShift, src2Stride2}, {ppDst, dstRoiShift, dstStride2}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2501>{}, ownSub_vva_32f_L_Packed,
                  ownSub_vva_32f_L_Strided, ownOMP_zepmSub_vva_32f_L);
@@ -44,7 +47,7 @@ Status zepmSub_vva_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, const
                          int32 src2RoiShift, int32 src2Stride0, float32* const* ppDst, int32 dstRoiShift,
                          int32 dstStride0, int32 len, int32 count)
 {
-    const Vva<float32, P> x{
+    const CombineVva<float32, P> x{
         {ppSrc1, src1RoiShift}, {ppSrc2, src2RoiShift, src2Stride0}, {ppDst, dstRoiShift, dstStride0}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1501>{}, ownSub_vva_32f_P,
                  ownOMP_zepmSub_vva_32f_P);
@@ -53,7 +56,7 @@ Status zepmSub_vva_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, const
 Status zepmSub_vva_64f(const float64* pSrc1, int32 src1Stride2, const float64* pSrc2, int32 src2Stride0,
                        int32 src2Stride2, float64* pDst, int32 dstStride0, int32 dstStride2, int32 len, int32 count)
 {
-    Vva<float64, S> x{
+    CombineVva<float64, S> x{
         {pSrc1, src1Stride2}, {pSrc2, src2Stride0, src2Stride2}, {pDst, dstStride0, dstStride2}, len, count};
     return enterDense(Minus{}, x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<1401>{}, ownSub_vva_64f_Packed,
                       ownSub_vva_64f_Strided, ownOMP_zepmSub_vva_64f);
@@ -63,7 +66,7 @@ Status zepmSub_vva_64f_L(const float64* pSrc1, int32 src1Stride2, const float64*
                          int32 src2Stride2, float64* const* ppDst, int32 dstRoiShift, int32 dstStride2, int32 len,
                          int32 count)
 {
-    const Vva<float64, L> x{
+    const CombineVva<float64, L> x{
         {pSrc1, src1Stride2}, {ppSrc2, src2RoiShift, src2Stride2}, {ppDst, dstRoiShift, dstStride2}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<2501>{}, ownSub_vva_64f_L_Packed,
                  ownSub_vva_64f_L_Strided, ownOMP_zepmSub_vva_64f_L);
@@ -73,7 +76,7 @@ Status zepmSub_vva_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, const
                          int32 src2RoiShift, int32 src2Stride0, float64* const* ppDst, int32 dstRoiShift,
                          int32 dstStride0, int32 len, int32 count)
 {
-    const Vva<float64, P> x{
+    const CombineVva<float64, P> x{
         {ppSrc1, src1RoiShift}, {ppSrc2, src2RoiShift, src2Stride0}, {ppDst, dstRoiShift, dstStride0}, len, count};
     return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<1501>{}, ownSub_vva_64f_P,
                  ownOMP_zepmSub_vva_64f_P);

@@ -117,8 +117,9 @@ struct parallelFrom
 
 // ---- The choice of path ---------------------------------------------------------------------------------------------
 
+// Kernels and drivers by their argument struct: KernelOf<CombineVv<float32, S>> ownAdd_vv_32f_Packed;
 template <class X>
-using Kernel = Status (*)(const X&);
+using KernelOf = Status(const X&);
 
 template <class X>
 concept LightWork = requires
@@ -139,7 +140,7 @@ ZEPM_INLINE bool isHeavy(const X& x)
 
 // Arrays in S and L.
 template <class X, class Order, class Limits>
-ZEPM_INLINE Status enter(const X& x, Order, Limits, Kernel<X> packed, Kernel<X> general, Kernel<X> driver)
+ZEPM_INLINE Status enter(const X& x, Order, Limits, KernelOf<X>* packed, KernelOf<X>* general, KernelOf<X>* driver)
 {
     if (const Status invalid = Order::check(x)) return invalid;
     if (x.isPacked()) return isHeavy<Limits::packed>(x) ? driver(x) : packed(x);
@@ -148,7 +149,7 @@ ZEPM_INLINE Status enter(const X& x, Order, Limits, Kernel<X> packed, Kernel<X> 
 
 // Arrays in P, and families with one kernel.
 template <class X, class Order, class Limits>
-ZEPM_INLINE Status enter(const X& x, Order, Limits, Kernel<X> kernel, Kernel<X> driver)
+ZEPM_INLINE Status enter(const X& x, Order, Limits, KernelOf<X>* kernel, KernelOf<X>* driver)
 {
     if (const Status invalid = Order::check(x)) return invalid;
     return isHeavy<Limits::general>(x) ? driver(x) : kernel(x);
@@ -156,14 +157,14 @@ ZEPM_INLINE Status enter(const X& x, Order, Limits, Kernel<X> kernel, Kernel<X> 
 
 // Forms that are always serial.
 template <class X, class Order>
-ZEPM_INLINE Status enter(const X& x, Order, Kernel<X> packed, Kernel<X> general)
+ZEPM_INLINE Status enter(const X& x, Order, KernelOf<X>* packed, KernelOf<X>* general)
 {
     if (const Status invalid = Order::check(x)) return invalid;
     return x.isPacked() ? packed(x) : general(x);
 }
 
 template <class X, class Order>
-ZEPM_INLINE Status enter(const X& x, Order, Kernel<X> kernel)
+ZEPM_INLINE Status enter(const X& x, Order, KernelOf<X>* kernel)
 {
     if (const Status invalid = Order::check(x)) return invalid;
     return kernel(x);

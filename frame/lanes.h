@@ -11,7 +11,7 @@
 #include <utility>
 
 #ifndef ZEPM_LEVEL
-#define ZEPM_LEVEL ssse3
+#define ZEPM_LEVEL baseline
 #endif
 
 #if defined(__clang__)

@@ -41,7 +41,7 @@ concept NeedsScratch = requires(const X& x)
 
 // One region over all objects. scratch, where the kernel needs it, holds one part for each thread.
 template <class X>
-Status forkShares(const X& x, Kernel<X> kernel, int32 numThreads, [[maybe_unused]] char* scratch)
+Status forkShares(const X& x, KernelOf<X>* kernel, int32 numThreads, [[maybe_unused]] char* scratch)
 {
     int32 quotient = 0, remainder = 0;
     Status status = stsOk;
@@ -74,7 +74,7 @@ Status forkShares(const X& x, Kernel<X> kernel, int32 numThreads, [[maybe_unused
 }
 
 template <class X>
-Status shareObjects(const X& x, Kernel<X> kernel)
+Status shareObjects(const X& x, KernelOf<X>* kernel)
 {
     const int32 numThreads = ownGetNumThreads();
     if (numThreads <= 1 || x.count < numThreads) return kernel(x);
@@ -95,7 +95,7 @@ Status shareObjects(const X& x, Kernel<X> kernel)
 }
 
 template <class X>
-Status shareObjects(const X& x, Kernel<X> packed, Kernel<X> general)
+Status shareObjects(const X& x, KernelOf<X>* packed, KernelOf<X>* general)
 {
     return shareObjects(x, x.isPacked() ? packed : general);
 }

@@ -31,9 +31,8 @@ struct Mva3DH
 
 extern "C" {
 
-Status ownAffineTransform3DH_mva_32f_Packed(const Mva3DH& x);
-Status ownAffineTransform3DH_mva_32f_Strided(const Mva3DH& x);
-Status ownOMP_zepmAffineTransform3DH_mva_32f(const Mva3DH& x);
+KernelOf<Mva3DH> ownAffineTransform3DH_mva_32f_Packed, ownAffineTransform3DH_mva_32f_Strided,
+    ownOMP_zepmAffineTransform3DH_mva_32f;
 }
 
 } // namespace zepm

@@ -6,15 +6,7 @@
 namespace zepm
 {
 
-#define ZEPM_DECLARE_LEVEL(level)                                                                                      \
-    namespace level                                                                                                    \
-    {                                                                                                                  \
-    Status invert(const float32* pSrc, float32* pDet, float32* pDst);                                                  \
-    Status invertInFloat64(const float32* pSrc, float32* pDst);                                                        \
-    }
-ZEPM_DECLARE_LEVEL(ssse3)
-ZEPM_DECLARE_LEVEL(avx2)
-ZEPM_DECLARE_LEVEL(avx512)
-#undef ZEPM_DECLARE_LEVEL
+ZEPM_EACH_LEVEL(Status invert(const float32* pSrc, float32* pDet, float32* pDst);
+                Status invertInFloat64(const float32* pSrc, float32* pDst);)
 
 } // namespace zepm

@@ -3,7 +3,7 @@
 #include "zepm_geometry.h"
 
 using namespace zepm;
-using namespace zepm::ssse3;
+using namespace zepm::baseline;
 
 namespace
 {

@@ -7,13 +7,13 @@ using namespace zepm;
 
 Status zepmDet_m4_32f(const float32* pSrc, float32* pDst)
 {
-    const ssse3::Matrix4<float32> m = ssse3::loadMatrix(pSrc);
-    const ssse3::Fixed<4> products = m.row[0] * ssse3::minors(m.row[1], m.row[2], m.row[3]);
+    const baseline::Matrix4<float32> m = baseline::loadMatrix(pSrc);
+    const baseline::Fixed<4> products = m.row[0] * baseline::minors(m.row[1], m.row[2], m.row[3]);
     store<float32>(pDst, products[0] - products[1] + products[2] - products[3]);
     return stsOk;
 }
 
 Status zepmInvert_m4_32f(const float32* pSrc, float32* pDet, float32* pDst)
 {
-    return atLevel(ssse3::invert, avx2::invert, avx512::invert)(pSrc, pDet, pDst);
+    return ZEPM_AT_LEVEL(invert)(pSrc, pDet, pDst);
 }

@@ -3,7 +3,7 @@
 #include "zepm_geometry.h"
 
 using namespace zepm;
-using namespace zepm::ssse3;
+using namespace zepm::baseline;
 
 // The one fixed-size function that tests its pointers.
 Status zepmMul_mm4x4_32f(const float32* pSrc1, const float32* pSrc2, float32* pDst)

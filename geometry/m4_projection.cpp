@@ -5,7 +5,7 @@
 #include <cmath>
 
 using namespace zepm;
-using namespace zepm::ssse3;
+using namespace zepm::baseline;
 
 namespace
 {
@@ -49,19 +49,13 @@ Status zepmLookAtRH_m4_32f(const float32* pEye, const float32* pAt, const float3
 
 Status zepmOrthoLH_m4_32f(float32 w, float32 h, float32 zn, float32 zf, float32* pDst)
 {
-    storeRows(pDst, {{2 / w, 0, 0, 0},
-                     {0, 2 / h, 0, 0},
-                     {0, 0, 1 / (zf - zn), 0},
-                     {0, 0, zn / (0 - (zf - zn)), 1}});
+    storeRows(pDst, {{2 / w, 0, 0, 0}, {0, 2 / h, 0, 0}, {0, 0, 1 / (zf - zn), 0}, {0, 0, zn / (0 - (zf - zn)), 1}});
     return stsOk;
 }
 
 Status zepmOrthoRH_m4_32f(float32 w, float32 h, float32 zn, float32 zf, float32* pDst)
 {
-    storeRows(pDst, {{2 / w, 0, 0, 0},
-                     {0, 2 / h, 0, 0},
-                     {0, 0, 1 / (zn - zf), 0},
-                     {0, 0, zn / (zn - zf), 1}});
+    storeRows(pDst, {{2 / w, 0, 0, 0}, {0, 2 / h, 0, 0}, {0, 0, 1 / (zn - zf), 0}, {0, 0, zn / (zn - zf), 1}});
     return stsOk;
 }
 
@@ -114,10 +108,7 @@ Status zepmPerspectiveFovLH_m4_32f(float32 fovY, float32 aspect, float32 zn, flo
 Status zepmPerspectiveFovRH_m4_32f(float32 fovY, float32 aspect, float32 zn, float32 zf, float32* pDst)
 {
     const float32 y = cotangentOfHalf(fovY);
-    storeRows(pDst, {{y / aspect, 0, 0, 0},
-                     {0, y, 0, 0},
-                     {0, 0, zf / (zn - zf), -1},
-                     {0, 0, zn * zf / (zn - zf), 0}});
+    storeRows(pDst, {{y / aspect, 0, 0, 0}, {0, y, 0, 0}, {0, 0, zf / (zn - zf), -1}, {0, 0, zn * zf / (zn - zf), 0}});
     return stsOk;
 }
 

@@ -5,7 +5,7 @@
 #include <cmath>
 
 using namespace zepm;
-using namespace zepm::ssse3;
+using namespace zepm::baseline;
 
 namespace
 {

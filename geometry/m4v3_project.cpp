@@ -5,7 +5,7 @@
 #include "zepm_geometry.h"
 
 using namespace zepm;
-using namespace zepm::ssse3;
+using namespace zepm::baseline;
 
 namespace
 {
@@ -24,7 +24,7 @@ struct CombinedInverse
     CombinedInverse(const float32* pProj, const float32* pView, const float32* pWorld)
     {
         storeMatrix(e, combined(pProj, pView, pWorld));
-        status = atLevel(ssse3::invertInFloat64, avx2::invertInFloat64, avx512::invertInFloat64)(e, e);
+        status = ZEPM_AT_LEVEL(invertInFloat64)(e, e);
     }
 };
 

@@ -18,25 +18,16 @@ struct PointArray
     ZEPM_INLINE Bytes<T> at(ptrdiff_t k, int j = 0) const { return bytes(p) + k * stride + j * elementStride; }
 };
 
-#define ZEPM_DECLARE_LEVEL(level)                                                                                      \
-    namespace level                                                                                                    \
-    {                                                                                                                  \
-    template <class Formula>                                                                                           \
-    bool transformPointArray(const Formula& formula, const PointArray<const float32>& src,                             \
-                             const PointArray<float32>& dst, ptrdiff_t count);                                         \
-    }
-ZEPM_DECLARE_LEVEL(ssse3)
-ZEPM_DECLARE_LEVEL(avx2)
-ZEPM_DECLARE_LEVEL(avx512)
-#undef ZEPM_DECLARE_LEVEL
+ZEPM_EACH_LEVEL(template <class Formula> bool transformPointArray(const Formula& formula,
+                                                                  const PointArray<const float32>& src,
+                                                                  const PointArray<float32>& dst, ptrdiff_t count);)
 
 // Whether the formula succeeded on all points. Where points overlap, as a walk from the first to the last gives it.
 template <class Formula>
 ZEPM_INLINE bool transformPoints(const Formula& formula, const PointArray<const float32>& src,
                                  const PointArray<float32>& dst, ptrdiff_t count)
 {
-    return atLevel(ssse3::transformPointArray<Formula>, avx2::transformPointArray<Formula>,
-                   avx512::transformPointArray<Formula>)(formula, src, dst, count);
+    return ZEPM_AT_LEVEL(transformPointArray<Formula>)(formula, src, dst, count);
 }
 
 } // namespace zepm

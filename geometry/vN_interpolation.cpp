@@ -3,7 +3,7 @@
 #include "zepm_geometry.h"
 
 using namespace zepm;
-using namespace zepm::ssse3;
+using namespace zepm::baseline;
 
 namespace
 {
@@ -33,8 +33,8 @@ template <int N>
 ZEPM_INLINE Status hermiteCurve(const float32* pSrc1, const float32* pSrc2, const float32* pSrc3, const float32* pSrc4,
                                 float32 val, float32* pDst)
 {
-    storeFixed<N>(pDst, hermite<N>(loadFixed<N>(pSrc1), loadFixed<N>(pSrc2), loadFixed<N>(pSrc3), loadFixed<N>(pSrc4),
-                                   val));
+    storeFixed<N>(pDst,
+                  hermite<N>(loadFixed<N>(pSrc1), loadFixed<N>(pSrc2), loadFixed<N>(pSrc3), loadFixed<N>(pSrc4), val));
     return stsOk;
 }
 

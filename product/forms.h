@@ -65,39 +65,39 @@ struct Products
 };
 
 template <class T, class Y>
-using Mm = Products<m<const T, Y>, m<const T, Y>, m<T, Y>>;
+using MultiplyMm = Products<m<const T, Y>, m<const T, Y>, m<T, Y>>;
 template <class T, class Y>
-using Mt = Products<m<const T, Y>, t<const T, Y>, m<T, Y>>;
+using MultiplyMt = Products<m<const T, Y>, t<const T, Y>, m<T, Y>>;
 template <class T, class Y>
-using Tm = Products<t<const T, Y>, m<const T, Y>, m<T, Y>>;
+using MultiplyTm = Products<t<const T, Y>, m<const T, Y>, m<T, Y>>;
 template <class T, class Y>
-using Tt = Products<t<const T, Y>, t<const T, Y>, m<T, Y>>;
+using MultiplyTt = Products<t<const T, Y>, t<const T, Y>, m<T, Y>>;
 
 template <class T, class Y>
-using Mam = Products<ma<const T, Y>, m<const T, Y>, ma<T, Y>>;
+using MultiplyMam = Products<ma<const T, Y>, m<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Mat = Products<ma<const T, Y>, t<const T, Y>, ma<T, Y>>;
+using MultiplyMat = Products<ma<const T, Y>, t<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tam = Products<ta<const T, Y>, m<const T, Y>, ma<T, Y>>;
+using MultiplyTam = Products<ta<const T, Y>, m<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tat = Products<ta<const T, Y>, t<const T, Y>, ma<T, Y>>;
+using MultiplyTat = Products<ta<const T, Y>, t<const T, Y>, ma<T, Y>>;
 
 template <class T, class Y>
-using Mma = Products<m<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+using MultiplyMma = Products<m<const T, Y>, ma<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Mta = Products<m<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+using MultiplyMta = Products<m<const T, Y>, ta<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tma = Products<t<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+using MultiplyTma = Products<t<const T, Y>, ma<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tta = Products<t<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+using MultiplyTta = Products<t<const T, Y>, ta<const T, Y>, ma<T, Y>>;
 
 template <class T, class Y>
-using Mama = Products<ma<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+using MultiplyMama = Products<ma<const T, Y>, ma<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Mata = Products<ma<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+using MultiplyMata = Products<ma<const T, Y>, ta<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tama = Products<ta<const T, Y>, ma<const T, Y>, ma<T, Y>>;
+using MultiplyTama = Products<ta<const T, Y>, ma<const T, Y>, ma<T, Y>>;
 template <class T, class Y>
-using Tata = Products<ta<const T, Y>, ta<const T, Y>, ma<T, Y>>;
+using MultiplyTata = Products<ta<const T, Y>, ta<const T, Y>, ma<T, Y>>;
 
 } // namespace zepm

@@ -148,15 +148,15 @@ template <class X>
 [[gnu::noinline]] void multiplyWide(const X& x, int32 order)
 {
     using Dst = decltype(x.dst);
-    multiplyMatrices<typename Dst::Element, X::transposes1, X::transposes2>(
-        {matrixOf(x.src1), matrixOf(x.src2), matrixOf(x.dst), isList<Dst>, x.count, order, x.rows(), x.inner(),
-         x.cols(), firstRowInPairs(x)});
+    ZEPM_AT_LEVEL(multiplyMatrices<typename Dst::Element, X::transposes1, X::transposes2>)
+    ({matrixOf(x.src1), matrixOf(x.src2), matrixOf(x.dst), isList<Dst>, x.count, order, x.rows(), x.inner(), x.cols(),
+      firstRowInPairs(x)});
 }
 
 template <int Order, class X>
 ZEPM_INLINE Status multiplyPair(const X& x)
 {
-    ssse3::multiplyPair<typename decltype(x.dst)::Element, Order, X::transposes1, X::transposes2>(
+    baseline::multiplyPair<typename decltype(x.dst)::Element, Order, X::transposes1, X::transposes2>(
         matrixOf(x.src1), matrixOf(x.src2), matrixOf(x.dst));
     return stsOk;
 }

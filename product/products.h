@@ -29,22 +29,6 @@ struct ProductCall
     int32 firstInPairs; // the rows from here on sum even and odd products apart
 };
 
-#define ZEPM_DECLARE_LEVEL(level)                                                                                      \
-    namespace level                                                                                                    \
-    {                                                                                                                  \
-    template <class T, bool Transposes1, bool Transposes2>                                                             \
-    void multiplyMatrices(const ProductCall& call);                                                                    \
-    }
-ZEPM_DECLARE_LEVEL(ssse3)
-ZEPM_DECLARE_LEVEL(avx2)
-ZEPM_DECLARE_LEVEL(avx512)
-#undef ZEPM_DECLARE_LEVEL
-
-template <class T, bool Transposes1, bool Transposes2>
-ZEPM_INLINE void multiplyMatrices(const ProductCall& call)
-{
-    atLevel(ssse3::multiplyMatrices<T, Transposes1, Transposes2>, avx2::multiplyMatrices<T, Transposes1, Transposes2>,
-            avx512::multiplyMatrices<T, Transposes1, Transposes2>)(call);
-}
+ZEPM_EACH_LEVEL(template <class T, bool Transposes1, bool Transposes2> void multiplyMatrices(const ProductCall& call);)
 
 } // namespace zepm

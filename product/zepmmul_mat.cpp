@@ -6,18 +6,18 @@
 namespace zepm
 {
 
-Status ownMul_mat_32f_Packed(const Mat<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mat_32f_Packed(const MultiplyMat<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
 // Order 3 alone has a body of its own.
-Status ownMul_mat_32f_Strided(const Mat<float32, S>& x) { return multiplyStrided(x, orders<3>{}); }
-Status ownMul_mat_32f_L_Packed(const Mat<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mat_32f_Strided(const MultiplyMat<float32, S>& x) { return multiplyStrided(x, orders<3>{}); }
+Status ownMul_mat_32f_L_Packed(const MultiplyMat<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
 // Order 3 alone has a body of its own.
-Status ownMul_mat_32f_L_Strided(const Mat<float32, L>& x) { return multiplyStrided(x, orders<3>{}); }
-Status ownMul_mat_32f_P(const Mat<float32, P>& x) { return multiplyTable(x, orders<3>{}); }
-Status ownMul_mat_64f_Packed(const Mat<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mat_64f_Strided(const Mat<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mat_64f_L_Packed(const Mat<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mat_64f_L_Strided(const Mat<float64, L>& x) { return forEachObject(x, ownMul_mt_64f_Strided); }
-Status ownMul_mat_64f_P(const Mat<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mat_32f_L_Strided(const MultiplyMat<float32, L>& x) { return multiplyStrided(x, orders<3>{}); }
+Status ownMul_mat_32f_P(const MultiplyMat<float32, P>& x) { return multiplyTable(x, orders<3>{}); }
+Status ownMul_mat_64f_Packed(const MultiplyMat<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mat_64f_Strided(const MultiplyMat<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mat_64f_L_Packed(const MultiplyMat<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mat_64f_L_Strided(const MultiplyMat<float64, L>& x) { return forEachObject(x, ownMul_mt_64f_Strided); }
+Status ownMul_mat_64f_P(const MultiplyMat<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -28,10 +28,10 @@ Status zepmMul_mat_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Stride
                        int32 src2Height, float32* pDst, int32 dstStride0, int32 dstStride1, int32 dstStride2,
                        int32 count)
 {
-    const Mat<float32, S> x{{{pSrc1, src1Stride0, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            count};
+    const MultiplyMat<float32, S> x{{{pSrc1, src1Stride0, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {pDst, dstStride0, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides>{}, parallelFrom<2501, 1441>{},
                  ownMul_mat_32f_Packed, ownMul_mat_32f_Strided, ownOMP_zepmMul_mat_32f);
 }
@@ -41,10 +41,10 @@ Status zepmMul_mat_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int32
                          int32 src2Width, int32 src2Height, float32* const* ppDst, int32 dstRoiShift, int32 dstStride1,
                          int32 dstStride2, int32 count)
 {
-    const Mat<float32, L> x{{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            count};
+    const MultiplyMat<float32, L> x{{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<3601, 1441>{},
                  ownMul_mat_32f_L_Packed, ownMul_mat_32f_L_Strided, ownOMP_zepmMul_mat_32f_L);
 }
@@ -53,10 +53,10 @@ Status zepmMul_mat_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int32
                          int32 src1Height, const float32* const* ppSrc2, int32 src2RoiShift, int32 src2Width,
                          int32 src2Height, float32* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 count)
 {
-    const Mat<float32, P> x{{{ppSrc1, src1RoiShift, src1Stride0}, src1Width, src1Height},
-                            {{ppSrc2, src2RoiShift}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride0},
-                            count};
+    const MultiplyMat<float32, P> x{{{ppSrc1, src1RoiShift, src1Stride0}, src1Width, src1Height},
+                                    {{ppSrc2, src2RoiShift}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<1441>{},
                  ownMul_mat_32f_P, ownOMP_zepmMul_mat_32f_P);
 }
@@ -66,10 +66,10 @@ Status zepmMul_mat_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Stride
                        int32 src2Height, float64* pDst, int32 dstStride0, int32 dstStride1, int32 dstStride2,
                        int32 count)
 {
-    const Mat<float64, S> x{{{pSrc1, src1Stride0, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            count};
+    const MultiplyMat<float64, S> x{{{pSrc1, src1Stride0, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {pDst, dstStride0, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides>{}, parallelFrom<3601, 1441>{},
                  ownMul_mat_64f_Packed, ownMul_mat_64f_Strided, ownOMP_zepmMul_mat_64f);
 }
@@ -79,10 +79,10 @@ Status zepmMul_mat_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int32
                          int32 src2Width, int32 src2Height, float64* const* ppDst, int32 dstRoiShift, int32 dstStride1,
                          int32 dstStride2, int32 count)
 {
-    const Mat<float64, L> x{{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            count};
+    const MultiplyMat<float64, L> x{{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<3601, 1441>{},
                  ownMul_mat_64f_L_Packed, ownMul_mat_64f_L_Strided, ownOMP_zepmMul_mat_64f_L);
 }
@@ -91,10 +91,10 @@ Status zepmMul_mat_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int32
                          int32 src1Height, const float64* const* ppSrc2, int32 src2RoiShift, int32 src2Width,
                          int32 src2Height, float64* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 count)
 {
-    const Mat<float64, P> x{{{ppSrc1, src1RoiShift, src1Stride0}, src1Width, src1Height},
-                            {{ppSrc2, src2RoiShift}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride0},
-                            count};
+    const MultiplyMat<float64, P> x{{{ppSrc1, src1RoiShift, src1Stride0}, src1Width, src1Height},
+                                    {{ppSrc2, src2RoiShift}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<1441>{},
                  ownMul_mat_64f_P, ownOMP_zepmMul_mat_64f_P);
 }

@@ -6,13 +6,13 @@
 namespace zepm
 {
 
-Status ownMul_mm_32f_Packed(const Mm<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mm_32f_Strided(const Mm<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mm_32f_Packed(const MultiplyMm<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mm_32f_Strided(const MultiplyMm<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
 // Orders 3 and 4 are told by the sizes taken together: see OrdersByOr.
-Status ownMul_mm_32f_P(const Mm<float32, P>& x) { return multiplyTable(x, OrdersByOr{}); }
-Status ownMul_mm_64f_Packed(const Mm<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mm_64f_Strided(const Mm<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mm_64f_P(const Mm<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mm_32f_P(const MultiplyMm<float32, P>& x) { return multiplyTable(x, OrdersByOr{}); }
+Status ownMul_mm_64f_Packed(const MultiplyMm<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mm_64f_Strided(const MultiplyMm<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mm_64f_P(const MultiplyMm<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -22,9 +22,9 @@ Status zepmMul_mm_32f(const float32* pSrc1, int32 src1Stride1, int32 src1Stride2
                       const float32* pSrc2, int32 src2Stride1, int32 src2Stride2, int32 src2Width, int32 src2Height,
                       float32* pDst, int32 dstStride1, int32 dstStride2)
 {
-    const Mm<float32, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
-                           {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                           {pDst, dstStride1, dstStride2}};
+    const MultiplyMm<float32, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                   {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                   {pDst, dstStride1, dstStride2}};
     return enter(x, order<Pointers, Sizes, SizeMatch, Strides>{}, ownMul_mm_32f_Packed, ownMul_mm_32f_Strided);
 }
 
@@ -32,9 +32,9 @@ Status zepmMul_mm_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int32 
                         const float32* const* ppSrc2, int32 src2RoiShift, int32 src2Width, int32 src2Height,
                         float32* const* ppDst, int32 dstRoiShift)
 {
-    const Mm<float32, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
-                           {{ppSrc2, src2RoiShift}, src2Width, src2Height},
-                           {ppDst, dstRoiShift}};
+    const MultiplyMm<float32, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
+                                   {{ppSrc2, src2RoiShift}, src2Width, src2Height},
+                                   {ppDst, dstRoiShift}};
     return enter(x, order<Pointers, Sizes, SizeMatch, RoiShifts>{}, ownMul_mm_32f_P);
 }
 
@@ -42,9 +42,9 @@ Status zepmMul_mm_64f(const float64* pSrc1, int32 src1Stride1, int32 src1Stride2
                       const float64* pSrc2, int32 src2Stride1, int32 src2Stride2, int32 src2Width, int32 src2Height,
                       float64* pDst, int32 dstStride1, int32 dstStride2)
 {
-    const Mm<float64, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
-                           {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                           {pDst, dstStride1, dstStride2}};
+    const MultiplyMm<float64, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                   {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                   {pDst, dstStride1, dstStride2}};
     return enter(x, order<Pointers, Sizes, SizeMatch, Strides>{}, ownMul_mm_64f_Packed, ownMul_mm_64f_Strided);
 }
 
@@ -52,8 +52,8 @@ Status zepmMul_mm_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int32 
                         const float64* const* ppSrc2, int32 src2RoiShift, int32 src2Width, int32 src2Height,
                         float64* const* ppDst, int32 dstRoiShift)
 {
-    const Mm<float64, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
-                           {{ppSrc2, src2RoiShift}, src2Width, src2Height},
-                           {ppDst, dstRoiShift}};
+    const MultiplyMm<float64, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
+                                   {{ppSrc2, src2RoiShift}, src2Width, src2Height},
+                                   {ppDst, dstRoiShift}};
     return enter(x, order<Pointers, Sizes, SizeMatch, RoiShifts>{}, ownMul_mm_64f_P);
 }

@@ -6,16 +6,16 @@
 namespace zepm
 {
 
-Status ownMul_mma_32f_Packed(const Mma<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_32f_Strided(const Mma<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_32f_L_Packed(const Mma<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_32f_L_Strided(const Mma<float32, L>& x) { return forEachObject(x, ownMul_mm_32f_Strided); }
-Status ownMul_mma_32f_P(const Mma<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_64f_Packed(const Mma<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_64f_Strided(const Mma<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_64f_L_Packed(const Mma<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_64f_L_Strided(const Mma<float64, L>& x) { return forEachObject(x, ownMul_mm_64f_Strided); }
-Status ownMul_mma_64f_P(const Mma<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_32f_Packed(const MultiplyMma<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_32f_Strided(const MultiplyMma<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_32f_L_Packed(const MultiplyMma<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_32f_L_Strided(const MultiplyMma<float32, L>& x) { return forEachObject(x, ownMul_mm_32f_Strided); }
+Status ownMul_mma_32f_P(const MultiplyMma<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_64f_Packed(const MultiplyMma<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_64f_Strided(const MultiplyMma<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_64f_L_Packed(const MultiplyMma<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_64f_L_Strided(const MultiplyMma<float64, L>& x) { return forEachObject(x, ownMul_mm_64f_Strided); }
+Status ownMul_mma_64f_P(const MultiplyMma<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -26,10 +26,10 @@ Status zepmMul_mma_32f(const float32* pSrc1, int32 src1Stride1, int32 src1Stride
                        int32 src2Height, float32* pDst, int32 dstStride0, int32 dstStride1, int32 dstStride2,
                        int32 count)
 {
-    const Mma<float32, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{pSrc2, src2Stride0, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            count};
+    const MultiplyMma<float32, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{pSrc2, src2Stride0, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {pDst, dstStride0, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides>{}, parallelFrom<2501, 1441>{},
                  ownMul_mma_32f_Packed, ownMul_mma_32f_Strided, ownOMP_zepmMul_mma_32f);
 }
@@ -39,10 +39,10 @@ Status zepmMul_mma_32f_L(const float32* pSrc1, int32 src1Stride1, int32 src1Stri
                          int32 src2Width, int32 src2Height, float32* const* ppDst, int32 dstRoiShift, int32 dstStride1,
                          int32 dstStride2, int32 count)
 {
-    const Mma<float32, L> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{ppSrc2, src2RoiShift, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            count};
+    const MultiplyMma<float32, L> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{ppSrc2, src2RoiShift, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<3601, 1441>{},
                  ownMul_mma_32f_L_Packed, ownMul_mma_32f_L_Strided, ownOMP_zepmMul_mma_32f_L);
 }
@@ -51,10 +51,10 @@ Status zepmMul_mma_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int32
                          const float32* const* ppSrc2, int32 src2RoiShift, int32 src2Stride0, int32 src2Width,
                          int32 src2Height, float32* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 count)
 {
-    const Mma<float32, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
-                            {{ppSrc2, src2RoiShift, src2Stride0}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride0},
-                            count};
+    const MultiplyMma<float32, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
+                                    {{ppSrc2, src2RoiShift, src2Stride0}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<1441>{},
                  ownMul_mma_32f_P, ownOMP_zepmMul_mma_32f_P);
 }
@@ -64,10 +64,10 @@ Status zepmMul_mma_64f(const float64* pSrc1, int32 src1Stride1, int32 src1Stride
                        int32 src2Height, float64* pDst, int32 dstStride0, int32 dstStride1, int32 dstStride2,
                        int32 count)
 {
-    const Mma<float64, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{pSrc2, src2Stride0, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            count};
+    const MultiplyMma<float64, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{pSrc2, src2Stride0, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {pDst, dstStride0, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides>{}, parallelFrom<3601, 1441>{},
                  ownMul_mma_64f_Packed, ownMul_mma_64f_Strided, ownOMP_zepmMul_mma_64f);
 }
@@ -77,10 +77,10 @@ Status zepmMul_mma_64f_L(const float64* pSrc1, int32 src1Stride1, int32 src1Stri
                          int32 src2Width, int32 src2Height, float64* const* ppDst, int32 dstRoiShift, int32 dstStride1,
                          int32 dstStride2, int32 count)
 {
-    const Mma<float64, L> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{ppSrc2, src2RoiShift, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            count};
+    const MultiplyMma<float64, L> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{ppSrc2, src2RoiShift, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<3601, 1441>{},
                  ownMul_mma_64f_L_Packed, ownMul_mma_64f_L_Strided, ownOMP_zepmMul_mma_64f_L);
 }
@@ -89,10 +89,10 @@ Status zepmMul_mma_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int32
                          const float64* const* ppSrc2, int32 src2RoiShift, int32 src2Stride0, int32 src2Width,
                          int32 src2Height, float64* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 count)
 {
-    const Mma<float64, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
-                            {{ppSrc2, src2RoiShift, src2Stride0}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride0},
-                            count};
+    const MultiplyMma<float64, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
+                                    {{ppSrc2, src2RoiShift, src2Stride0}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<1441>{},
                  ownMul_mma_64f_P, ownOMP_zepmMul_mma_64f_P);
 }

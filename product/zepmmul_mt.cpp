@@ -6,12 +6,12 @@
 namespace zepm
 {
 
-Status ownMul_mt_32f_Packed(const Mt<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mt_32f_Strided(const Mt<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mt_32f_P(const Mt<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mt_64f_Packed(const Mt<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mt_64f_Strided(const Mt<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mt_64f_P(const Mt<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mt_32f_Packed(const MultiplyMt<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mt_32f_Strided(const MultiplyMt<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mt_32f_P(const MultiplyMt<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mt_64f_Packed(const MultiplyMt<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mt_64f_Strided(const MultiplyMt<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mt_64f_P(const MultiplyMt<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -21,9 +21,9 @@ Status zepmMul_mt_32f(const float32* pSrc1, int32 src1Stride1, int32 src1Stride2
                       const float32* pSrc2, int32 src2Stride1, int32 src2Stride2, int32 src2Width, int32 src2Height,
                       float32* pDst, int32 dstStride1, int32 dstStride2)
 {
-    const Mt<float32, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
-                           {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                           {pDst, dstStride1, dstStride2}};
+    const MultiplyMt<float32, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                   {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                   {pDst, dstStride1, dstStride2}};
     return enter(x, order<Pointers, Sizes, SizeMatch, Strides>{}, ownMul_mt_32f_Packed, ownMul_mt_32f_Strided);
 }
 
@@ -31,9 +31,9 @@ Status zepmMul_mt_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int32 
                         const float32* const* ppSrc2, int32 src2RoiShift, int32 src2Width, int32 src2Height,
                         float32* const* ppDst, int32 dstRoiShift)
 {
-    const Mt<float32, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
-                           {{ppSrc2, src2RoiShift}, src2Width, src2Height},
-                           {ppDst, dstRoiShift}};
+    const MultiplyMt<float32, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
+                                   {{ppSrc2, src2RoiShift}, src2Width, src2Height},
+                                   {ppDst, dstRoiShift}};
     return enter(x, order<Pointers, Sizes, SizeMatch, RoiShifts>{}, ownMul_mt_32f_P);
 }
 
@@ -41,9 +41,9 @@ Status zepmMul_mt_64f(const float64* pSrc1, int32 src1Stride1, int32 src1Stride2
                       const float64* pSrc2, int32 src2Stride1, int32 src2Stride2, int32 src2Width, int32 src2Height,
                       float64* pDst, int32 dstStride1, int32 dstStride2)
 {
-    const Mt<float64, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
-                           {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                           {pDst, dstStride1, dstStride2}};
+    const MultiplyMt<float64, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                   {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                   {pDst, dstStride1, dstStride2}};
     return enter(x, order<Pointers, Sizes, SizeMatch, Strides>{}, ownMul_mt_64f_Packed, ownMul_mt_64f_Strided);
 }
 
@@ -51,8 +51,8 @@ Status zepmMul_mt_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int32 
                         const float64* const* ppSrc2, int32 src2RoiShift, int32 src2Width, int32 src2Height,
                         float64* const* ppDst, int32 dstRoiShift)
 {
-    const Mt<float64, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
-                           {{ppSrc2, src2RoiShift}, src2Width, src2Height},
-                           {ppDst, dstRoiShift}};
+    const MultiplyMt<float64, P> x{{{ppSrc1, src1RoiShift}, src1Width, src1Height},
+                                   {{ppSrc2, src2RoiShift}, src2Width, src2Height},
+                                   {ppDst, dstRoiShift}};
     return enter(x, order<Pointers, Sizes, SizeMatch, RoiShifts>{}, ownMul_mt_64f_P);
 }

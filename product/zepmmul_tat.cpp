@@ -6,17 +6,17 @@
 namespace zepm
 {
 
-Status ownMul_tat_32f_Packed(const Tat<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_32f_Strided(const Tat<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_32f_L_Packed(const Tat<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_32f_Packed(const MultiplyTat<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_32f_Strided(const MultiplyTat<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_32f_L_Packed(const MultiplyTat<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
 // Order 3 alone has a body of its own.
-Status ownMul_tat_32f_L_Strided(const Tat<float32, L>& x) { return multiplyStrided(x, orders<3>{}); }
-Status ownMul_tat_32f_P(const Tat<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_64f_Packed(const Tat<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_64f_Strided(const Tat<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_64f_L_Packed(const Tat<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_64f_L_Strided(const Tat<float64, L>& x) { return forEachObject(x, ownMul_tt_64f_Strided); }
-Status ownMul_tat_64f_P(const Tat<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_32f_L_Strided(const MultiplyTat<float32, L>& x) { return multiplyStrided(x, orders<3>{}); }
+Status ownMul_tat_32f_P(const MultiplyTat<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_64f_Packed(const MultiplyTat<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_64f_Strided(const MultiplyTat<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_64f_L_Packed(const MultiplyTat<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_64f_L_Strided(const MultiplyTat<float64, L>& x) { return forEachObject(x, ownMul_tt_64f_Strided); }
+Status ownMul_tat_64f_P(const MultiplyTat<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 
@@ -27,10 +27,10 @@ Status zepmMul_tat_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Stride
                        int32 src2Height, float32* pDst, int32 dstStride0, int32 dstStride1, int32 dstStride2,
                        int32 count)
 {
-    const Tat<float32, S> x{{{pSrc1, src1Stride0, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            count};
+    const MultiplyTat<float32, S> x{{{pSrc1, src1Stride0, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {pDst, dstStride0, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides>{}, parallelFrom<2501, 1441>{},
                  ownMul_tat_32f_Packed, ownMul_tat_32f_Strided, ownOMP_zepmMul_tat_32f);
 }
@@ -40,10 +40,10 @@ Status zepmMul_tat_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int32
                          int32 src2Width, int32 src2Height, float32* const* ppDst, int32 dstRoiShift, int32 dstStride1,
                          int32 dstStride2, int32 count)
 {
-    const Tat<float32, L> x{{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            count};
+    const MultiplyTat<float32, L> x{{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<3601, 1441>{},
                  ownMul_tat_32f_L_Packed, ownMul_tat_32f_L_Strided, ownOMP_zepmMul_tat_32f_L);
 }
@@ -52,10 +52,10 @@ Status zepmMul_tat_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int32
                          int32 src1Height, const float32* const* ppSrc2, int32 src2RoiShift, int32 src2Width,
                          int32 src2Height, float32* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 count)
 {
-    const Tat<float32, P> x{{{ppSrc1, src1RoiShift, src1Stride0}, src1Width, src1Height},
-                            {{ppSrc2, src2RoiShift}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride0},
-                            count};
+    const MultiplyTat<float32, P> x{{{ppSrc1, src1RoiShift, src1Stride0}, src1Width, src1Height},
+                                    {{ppSrc2, src2RoiShift}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<1441>{},
                  ownMul_tat_32f_P, ownOMP_zepmMul_tat_32f_P);
 }
@@ -65,10 +65,10 @@ Status zepmMul_tat_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Stride
                        int32 src2Height, float64* pDst, int32 dstStride0, int32 dstStride1, int32 dstStride2,
                        int32 count)
 {
-    const Tat<float64, S> x{{{pSrc1, src1Stride0, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {pDst, dstStride0, dstStride1, dstStride2},
-                            count};
+    const MultiplyTat<float64, S> x{{{pSrc1, src1Stride0, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {pDst, dstStride0, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides>{}, parallelFrom<3601, 1441>{},
                  ownMul_tat_64f_Packed, ownMul_tat_64f_Strided, ownOMP_zepmMul_tat_64f);
 }
@@ -78,10 +78,10 @@ Status zepmMul_tat_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int32
                          int32 src2Width, int32 src2Height, float64* const* ppDst, int32 dstRoiShift, int32 dstStride1,
                          int32 dstStride2, int32 count)
 {
-    const Tat<float64, L> x{{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2}, src1Width, src1Height},
-                            {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride1, dstStride2},
-                            count};
+    const MultiplyTat<float64, L> x{{{ppSrc1, src1RoiShift, src1Stride1, src1Stride2}, src1Width, src1Height},
+                                    {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride1, dstStride2},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<3601, 1441>{},
                  ownMul_tat_64f_L_Packed, ownMul_tat_64f_L_Strided, ownOMP_zepmMul_tat_64f_L);
 }
@@ -90,10 +90,10 @@ Status zepmMul_tat_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int32
                          int32 src1Height, const float64* const* ppSrc2, int32 src2RoiShift, int32 src2Width,
                          int32 src2Height, float64* const* ppDst, int32 dstRoiShift, int32 dstStride0, int32 count)
 {
-    const Tat<float64, P> x{{{ppSrc1, src1RoiShift, src1Stride0}, src1Width, src1Height},
-                            {{ppSrc2, src2RoiShift}, src2Width, src2Height},
-                            {ppDst, dstRoiShift, dstStride0},
-                            count};
+    const MultiplyTat<float64, P> x{{{ppSrc1, src1RoiShift, src1Stride0}, src1Width, src1Height},
+                                    {{ppSrc2, src2RoiShift}, src2Width, src2Height},
+                                    {ppDst, dstRoiShift, dstStride0},
+                                    count};
     return enter(x, order<Pointers, Count, Sizes, SizeMatch, Strides, RoiShifts>{}, parallelFrom<1441>{},
                  ownMul_tat_64f_P, ownOMP_zepmMul_tat_64f_P);
 }

@@ -7,29 +7,20 @@
 namespace zepm
 {
 
-#define ZEPM_DECLARE_LEVEL(level)                                                                                      \
-    namespace level                                                                                                    \
-    {                                                                                                                  \
-    template <bool Contiguous, class X>                                                                                \
-    Status factor(const X& x);                                                                                         \
-    }
-ZEPM_DECLARE_LEVEL(ssse3)
-ZEPM_DECLARE_LEVEL(avx2)
-ZEPM_DECLARE_LEVEL(avx512)
-#undef ZEPM_DECLARE_LEVEL
+ZEPM_EACH_LEVEL(template <bool Contiguous, class X> Status factor(const X& x);)
 
 // Contiguous elements.
 template <class X>
 ZEPM_INLINE Status factorPacked(const X& x)
 {
-    return atLevel(ssse3::factor<true, X>, avx2::factor<true, X>, avx512::factor<true, X>)(x);
+    return ZEPM_AT_LEVEL(factor<true, X>)(x);
 }
 
 // Elements at any distance, or behind tables.
 template <class X>
 ZEPM_INLINE Status factorGeneral(const X& x)
 {
-    return atLevel(ssse3::factor<false, X>, avx2::factor<false, X>, avx512::factor<false, X>)(x);
+    return ZEPM_AT_LEVEL(factor<false, X>)(x);
 }
 
 } // namespace zepm

@@ -8,46 +8,32 @@ namespace zepm
 
 extern "C" {
 
-Status ownLUBackSubst_mv_32f_Packed(const SolveMv<float32, S>& x);
-Status ownLUBackSubst_mv_32f_Strided(const SolveMv<float32, S>& x);
-Status ownLUBackSubst_mv_32f_P(const SolveMv<float32, P>& x);
-Status ownLUBackSubst_mv_64f_Packed(const SolveMv<float64, S>& x);
-Status ownLUBackSubst_mv_64f_Strided(const SolveMv<float64, S>& x);
-Status ownLUBackSubst_mv_64f_P(const SolveMv<float64, P>& x);
+KernelOf<SolveMv<float32, S>> ownLUBackSubst_mv_32f_Packed, ownLUBackSubst_mv_32f_Strided;
+KernelOf<SolveMv<float32, P>> ownLUBackSubst_mv_32f_P;
+KernelOf<SolveMv<float64, S>> ownLUBackSubst_mv_64f_Packed, ownLUBackSubst_mv_64f_Strided;
+KernelOf<SolveMv<float64, P>> ownLUBackSubst_mv_64f_P;
 
-Status ownLUBackSubst_mva_32f_Packed(const SolveMva<float32, S>& x);
-Status ownLUBackSubst_mva_32f_Strided(const SolveMva<float32, S>& x);
-Status ownOMP_zepmLUBackSubst_mva_32f(const SolveMva<float32, S>& x);
-Status ownLUBackSubst_mva_32f_L_Packed(const SolveMva<float32, L>& x);
-Status ownLUBackSubst_mva_32f_L_Strided(const SolveMva<float32, L>& x);
-Status ownOMP_zepmLUBackSubst_mva_32f_L(const SolveMva<float32, L>& x);
-Status ownLUBackSubst_mva_32f_P(const SolveMva<float32, P>& x);
-Status ownOMP_zepmLUBackSubst_mva_32f_P(const SolveMva<float32, P>& x);
-Status ownLUBackSubst_mva_64f_Packed(const SolveMva<float64, S>& x);
-Status ownLUBackSubst_mva_64f_Strided(const SolveMva<float64, S>& x);
-Status ownOMP_zepmLUBackSubst_mva_64f(const SolveMva<float64, S>& x);
-Status ownLUBackSubst_mva_64f_L_Packed(const SolveMva<float64, L>& x);
-Status ownLUBackSubst_mva_64f_L_Strided(const SolveMva<float64, L>& x);
-Status ownOMP_zepmLUBackSubst_mva_64f_L(const SolveMva<float64, L>& x);
-Status ownLUBackSubst_mva_64f_P(const SolveMva<float64, P>& x);
-Status ownOMP_zepmLUBackSubst_mva_64f_P(const SolveMva<float64, P>& x);
+KernelOf<SolveMva<float32, S>> ownLUBackSubst_mva_32f_Packed, ownLUBackSubst_mva_32f_Strided,
+    ownOMP_zepmLUBackSubst_mva_32f;
+KernelOf<SolveMva<float32, L>> ownLUBackSubst_mva_32f_L_Packed, ownLUBackSubst_mva_32f_L_Strided,
+    ownOMP_zepmLUBackSubst_mva_32f_L;
+KernelOf<SolveMva<float32, P>> ownLUBackSubst_mva_32f_P, ownOMP_zepmLUBackSubst_mva_32f_P;
+KernelOf<SolveMva<float64, S>> ownLUBackSubst_mva_64f_Packed, ownLUBackSubst_mva_64f_Strided,
+    ownOMP_zepmLUBackSubst_mva_64f;
+KernelOf<SolveMva<float64, L>> ownLUBackSubst_mva_64f_L_Packed, ownLUBackSubst_mva_64f_L_Strided,
+    ownOMP_zepmLUBackSubst_mva_64f_L;
+KernelOf<SolveMva<float64, P>> ownLUBackSubst_mva_64f_P, ownOMP_zepmLUBackSubst_mva_64f_P;
 
-Status ownLUBackSubst_mava_32f_Packed(const SolveMava<float32, S>& x);
-Status ownLUBackSubst_mava_32f_Strided(const SolveMava<float32, S>& x);
-Status ownOMP_zepmLUBackSubst_mava_32f(const SolveMava<float32, S>& x);
-Status ownLUBackSubst_mava_32f_L_Packed(const SolveMava<float32, L>& x);
-Status ownLUBackSubst_mava_32f_L_Strided(const SolveMava<float32, L>& x);
-Status ownOMP_zepmLUBackSubst_mava_32f_L(const SolveMava<float32, L>& x);
-Status ownLUBackSubst_mava_32f_P(const SolveMava<float32, P>& x);
-Status ownOMP_zepmLUBackSubst_mava_32f_P(const SolveMava<float32, P>& x);
-Status ownLUBackSubst_mava_64f_Packed(const SolveMava<float64, S>& x);
-Status ownLUBackSubst_mava_64f_Strided(const SolveMava<float64, S>& x);
-Status ownOMP_zepmLUBackSubst_mava_64f(const SolveMava<float64, S>& x);
-Status ownLUBackSubst_mava_64f_L_Packed(const SolveMava<float64, L>& x);
-Status ownLUBackSubst_mava_64f_L_Strided(const SolveMava<float64, L>& x);
-Status ownOMP_zepmLUBackSubst_mava_64f_L(const SolveMava<float64, L>& x);
-Status ownLUBackSubst_mava_64f_P(const SolveMava<float64, P>& x);
-Status ownOMP_zepmLUBackSubst_mava_64f_P(const SolveMava<float64, P>& x);
+KernelOf<SolveMava<float32, S>> ownLUBackSubst_mava_32f_Packed, ownLUBackSubst_mava_32f_Strided,
+    ownOMP_zepmLUBackSubst_mava_32f;
+KernelOf<SolveMava<float32, L>> ownLUBackSubst_mava_32f_L_Packed, ownLUBackSubst_mava_32f_L_Strided,
+    ownOMP_zepmLUBackSubst_mava_32f_L;
+KernelOf<SolveMava<float32, P>> ownLUBackSubst_mava_32f_P, ownOMP_zepmLUBackSubst_mava_32f_P;
+KernelOf<SolveMava<float64, S>> ownLUBackSubst_mava_64f_Packed, ownLUBackSubst_mava_64f_Strided,
+    ownOMP_zepmLUBackSubst_mava_64f;
+KernelOf<SolveMava<float64, L>> ownLUBackSubst_mava_64f_L_Packed, ownLUBackSubst_mava_64f_L_Strided,
+    ownOMP_zepmLUBackSubst_mava_64f_L;
+KernelOf<SolveMava<float64, P>> ownLUBackSubst_mava_64f_P, ownOMP_zepmLUBackSubst_mava_64f_P;
 }
 
 } // namespace zepm

@@ -7,29 +7,20 @@
 namespace zepm
 {
 
-#define ZEPM_DECLARE_LEVEL(level)                                                                                      \
-    namespace level                                                                                                    \
-    {                                                                                                                  \
-    template <bool Contiguous, class X>                                                                                \
-    Status substitute(const X& x);                                                                                     \
-    }
-ZEPM_DECLARE_LEVEL(ssse3)
-ZEPM_DECLARE_LEVEL(avx2)
-ZEPM_DECLARE_LEVEL(avx512)
-#undef ZEPM_DECLARE_LEVEL
+ZEPM_EACH_LEVEL(template <bool Contiguous, class X> Status substitute(const X& x);)
 
 // Contiguous elements.
 template <class X>
 ZEPM_INLINE Status substitutePacked(const X& x)
 {
-    return atLevel(ssse3::substitute<true, X>, avx2::substitute<true, X>, avx512::substitute<true, X>)(x);
+    return ZEPM_AT_LEVEL(substitute<true, X>)(x);
 }
 
 // Elements at any distance, or behind tables.
 template <class X>
 ZEPM_INLINE Status substituteGeneral(const X& x)
 {
-    return atLevel(ssse3::substitute<false, X>, avx2::substitute<false, X>, avx512::substitute<false, X>)(x);
+    return ZEPM_AT_LEVEL(substitute<false, X>)(x);
 }
 
 } // namespace zepm
