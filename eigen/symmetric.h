@@ -11,7 +11,8 @@
 // a, v and values have get(i, j) and set(mask, i, j, x); set rounds to Element. Statuses are those of the whole group.
 #pragma once
 
-#include "eigen/numbers.h"
+#include "frame/numbers.h"
+#include "frame/sums.h"
 
 namespace zepm
 {
@@ -67,7 +68,7 @@ ZEPM_INLINE void accumulate(Problem& problem, int32 k, const Mask& reflects, con
         return;
     }
     ascend(n, 1, n, [&](int32 r) ZEPM_INLINED {
-        const Number t = beta * sum(n, k + 1, n, [&](int32 j) ZEPM_INLINED { return v.get(r, j) * u(j); });
+        const Number t = beta * sumFromFirst(n, k + 1, n, [&](int32 j) ZEPM_INLINED { return v.get(r, j) * u(j); });
         ascend(n, k + 1, n, [&](int32 j) ZEPM_INLINED { v.set(reflects, r, j, v.get(r, j) - t * u(j)); });
     });
 }
@@ -85,15 +86,14 @@ ZEPM_INLINE void tridiagonalise(Problem& problem)
     const auto setU = [&](int32 i, const Number& x) ZEPM_INLINED { problem.values.set(true, 0, i, x); };
 
     ascend(n, 0, n - 2, [&](int32 k) ZEPM_INLINED {
-        const Number ss = sum(n, k + 1, n, [&](int32 i) ZEPM_INLINED { return a.get(i, k) * a.get(i, k); });
+        const Number ss = sumFromFirst(n, k + 1, n, [&](int32 i) ZEPM_INLINED { return a.get(i, k) * a.get(i, k); });
         const Number s = squareRoot(ss);
         const Number x = a.get(k + 1, k);
         ascend(n, k + 2, n, [&](int32 i) ZEPM_INLINED { setU(i, a.get(i, k)); });
 
         const Mask isPositive = x > eps, isSmall = eps >= magnitude(x);
         setU(k + 1, select(isPositive, x + s, select(isSmall, s, x - s)));
-        const Number h =
-            select(isPositive, (ss + x * s) * two, select(isSmall, ss + ss, (ss - x * s) * two));
+        const Number h = select(isPositive, (ss + x * s) * two, select(isSmall, ss + ss, (ss - x * s) * two));
         Mask reflects = !(eps >= h);
         if constexpr (hasVectors<Problem>) reflects = reflects & !(eps >= magnitude(x - s));
         if constexpr (hasVectors<Problem> && rules.wideScalars) reflects = reflects & !(eps >= ss);
@@ -101,11 +101,11 @@ ZEPM_INLINE void tridiagonalise(Problem& problem)
         const Number beta = two / h;
 
         ascend(n, k, n, [&](int32 j) ZEPM_INLINED {
-            const Number t = beta * sum(n, k + 1, n, [&](int32 i) ZEPM_INLINED { return a.get(i, j) * u(i); });
+            const Number t = beta * sumFromFirst(n, k + 1, n, [&](int32 i) ZEPM_INLINED { return a.get(i, j) * u(i); });
             ascend(n, k + 1, n, [&](int32 i) ZEPM_INLINED { a.set(reflects, i, j, a.get(i, j) - t * u(i)); });
         });
         ascend(n, k, n, [&](int32 i) ZEPM_INLINED {
-            const Number t = beta * sum(n, k + 1, n, [&](int32 j) ZEPM_INLINED { return a.get(i, j) * u(j); });
+            const Number t = beta * sumFromFirst(n, k + 1, n, [&](int32 j) ZEPM_INLINED { return a.get(i, j) * u(j); });
             ascend(n, k + 1, n, [&](int32 j) ZEPM_INLINED { a.set(reflects, i, j, a.get(i, j) - t * u(j)); });
         });
         if constexpr (hasVectors<Problem>) accumulate(problem, k, reflects, beta);
@@ -256,9 +256,8 @@ ZEPM_INLINE bool diagonalise(Walk& walk, typename Walk::Number& prod)
                 sweep<rules>(walk, l, m, open);
         }
     });
-    ascend(n, 0, n - 1, [&](int32 i) ZEPM_INLINED {
-        prod = select(walk.bottomUp, prod, walk.rounded(prod * walk.d(i)));
-    });
+    ascend(n, 0, n - 1,
+           [&](int32 i) ZEPM_INLINED { prod = select(walk.bottomUp, prod, walk.rounded(prod * walk.d(i))); });
     prod = walk.rounded(prod * walk.d(n - 1));
     return isDone;
 }
@@ -297,7 +296,7 @@ ZEPM_INLINE void sortDescending(Problem& problem)
 // ---- The whole ------------------------------------------------------------------------------------------------------
 
 template <Rules rules, class Problem>
-ZEPM_INLINE Status solve(Problem& problem)
+ZEPM_INLINE Status diagonaliseAndSort(Problem& problem)
 {
     using Number = typename Problem::Number;
     tridiagonalise<rules>(problem);

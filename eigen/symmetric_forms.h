@@ -6,26 +6,6 @@
 namespace zepm
 {
 
-// Elements without gaps behind a pointer of their own, whatever the layout.
-template <class T>
-struct DenseBlock : Block<T>
-{
-    T* p;
-    ZEPM_INLINE DenseBlock(T* base) : p(base) {}
-    ZEPM_INLINE bool isNull() const { return !p; }
-};
-
-// The caller's room for one object at a time, or a thread's part of the driver's.
-struct ScratchBlock : Block<char>
-{
-    char* p;
-    template <class T>
-    ZEPM_INLINE ScratchBlock(T* base) : p(reinterpret_cast<char*>(base))
-    {
-    }
-    ZEPM_INLINE bool isNull() const { return !p; }
-};
-
 // Eigenvalues of a matrix or of each matrix of an array.
 template <class T, class Src>
 struct SymmetricValues
@@ -44,7 +24,6 @@ struct SymmetricValues
         return f(src) && f(pBuffer) && f(dstValues);
     }
     ZEPM_INLINE bool sizesValid() const { return widthHeight >= 1; }
-    ZEPM_INLINE bool isPacked() const { return src.contiguous(); }
     ZEPM_INLINE int32 estimate() const
     {
         const Work n = widthHeight;
@@ -56,7 +35,7 @@ struct SymmetricValues
     }
     ZEPM_INLINE SymmetricValues share(int32 first, int32 n) const
     {
-        return {src.from(first), pBuffer, dstValues.p + static_cast<ptrdiff_t>(first) * widthHeight, widthHeight, n};
+        return {src.from(first), pBuffer, dstValues.from(first, widthHeight), widthHeight, n};
     }
 };
 
@@ -79,7 +58,6 @@ struct SymmetricVectors
         return f(src) && f(pBuffer) && f(dst) && f(dstValues);
     }
     ZEPM_INLINE bool sizesValid() const { return widthHeight >= 1; }
-    ZEPM_INLINE bool isPacked() const { return src.contiguous() && dst.contiguous(); }
     ZEPM_INLINE int32 estimate() const
     {
         const Work n = widthHeight;
@@ -91,8 +69,7 @@ struct SymmetricVectors
     }
     ZEPM_INLINE SymmetricVectors share(int32 first, int32 n) const
     {
-        return {src.from(first), pBuffer, dst.from(first), dstValues.p + static_cast<ptrdiff_t>(first) * widthHeight,
-                widthHeight, n};
+        return {src.from(first), pBuffer, dst.from(first), dstValues.from(first, widthHeight), widthHeight, n};
     }
 };
 

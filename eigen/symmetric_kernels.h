@@ -5,6 +5,7 @@
 #include "eigen/symmetric.h"
 #include "eigen/symmetric_forms.h"
 #include "eigen/symmetric_groups.h"
+#include "frame/groups.h"
 
 namespace zepm
 {
@@ -30,12 +31,12 @@ struct SingleProblem
 {
     using Element = T;
     using Number = Number_;
-    using Dense = StoredElements<T, Number, StridedObject<T, true>>;
+    using DenseElements = StoredElements<T, Number, StridedObject<T, true>>;
 
     int32 n;
-    Dense a;
+    DenseElements a;
     Vectors v;
-    Dense values;
+    DenseElements values;
 
     template <bool BottomUp>
     struct Walk
@@ -88,7 +89,7 @@ ZEPM_INLINE T cosineOf(T g)
 
 // The eigenvalue of larger magnitude stands first: a negative trace gives ascending order.
 template <Rules rules, class T, class Source, class Vectors, class Values>
-ZEPM_INLINE Status solveOrder2(const Source& source, [[maybe_unused]] const Vectors& v, const Values& values)
+ZEPM_INLINE Status solveSymmetricOrder2(const Source& source, [[maybe_unused]] const Vectors& v, const Values& values)
 {
     constexpr T eps = tolerance<T>;
     const T a = source.get(0, 0), b = source.get(0, 1), c = source.get(1, 1);
@@ -141,7 +142,7 @@ ZEPM_INLINE Status solveOrder2(const Source& source, [[maybe_unused]] const Vect
 }
 
 template <Rules rules, class T, class Source, class Vectors>
-ZEPM_INLINE Status solveObject(const Source& source, const Vectors& v, char* values, char* pBuffer, int32 n)
+ZEPM_INLINE Status solveSymmetricObject(const Source& source, const Vectors& v, char* values, char* pBuffer, int32 n)
 {
     constexpr bool withVectors = !std::is_same_v<Vectors, NoVectors>;
     const auto dense = denseRows<T>(values, n);
@@ -151,7 +152,7 @@ ZEPM_INLINE Status solveObject(const Source& source, const Vectors& v, char* val
         if constexpr (withVectors) v.set(0, 0, T(1));
         return stsOk;
     }
-    if (n == 2) return solveOrder2<rules, T>(source, v, dense);
+    if (n == 2) return solveSymmetricOrder2<rules, T>(source, v, dense);
 
     using Number = std::conditional_t<rules.wideScalars, float64, T>;
     const auto scratch = denseRows<T>(pBuffer, n);
@@ -164,12 +165,12 @@ ZEPM_INLINE Status solveObject(const Source& source, const Vectors& v, char* val
     if constexpr (withVectors)
     {
         SingleProblem<T, Number, StoredElements<T, Number, Vectors>> problem{n, {scratch}, {v}, {dense}};
-        return solve<rules>(problem);
+        return diagonaliseAndSort<rules>(problem);
     }
     else
     {
         SingleProblem<T, Number, NoVectors> problem{n, {scratch}, v, {dense}};
-        return solve<rules>(problem);
+        return diagonaliseAndSort<rules>(problem);
     }
 }
 
@@ -192,84 +193,48 @@ ZEPM_INLINE auto vectorsOf(const X& x)
         return NoVectors{};
 }
 template <class View>
-ZEPM_INLINE auto objectOf(const View& view, int32 k)
+ZEPM_INLINE auto vectorsOfObject(const View& view, int32 k)
 {
     return view.object(k);
 }
-ZEPM_INLINE NoVectors objectOf(const NoVectors& none, int32) { return none; }
+ZEPM_INLINE NoVectors vectorsOfObject(const NoVectors& none, int32) { return none; }
 
 template <Rules rules, Access access, class X>
-ZEPM_INLINE Status solveOne(const X& x)
+ZEPM_INLINE Status solveSymmetric(const X& x)
 {
     using T = typename X::Element;
-    return solveObject<rules, T>(x.src.template view<access == Packed>(x.widthHeight).object(0),
-                                 objectOf(vectorsOf<access>(x), 0), bytes(x.dstValues.p), x.pBuffer.p, x.widthHeight);
+    return solveSymmetricObject<rules, T>(x.src.template view<access == Packed>(x.widthHeight).object(0),
+                                          vectorsOfObject(vectorsOf<access>(x), 0), bytes(x.dstValues.p), x.pBuffer.p,
+                                          x.widthHeight);
 }
 
-template <class T>
-ZEPM_INLINE Places placesOf(const StridedBlock<T, true, 2>& block, int32 n)
-{
-    Places places;
-    for (int32 i = 0; i < n; ++i)
-        for (int32 j = 0; j < n; ++j)
-            places.element[i * n + j] = static_cast<uintptr_t>(i * static_cast<ptrdiff_t>(block.stride1) +
-                                                               j * static_cast<ptrdiff_t>(block.stride2));
-    places.table = nullptr;
-    places.first = reinterpret_cast<uintptr_t>(block.p);
-    places.stride0 = static_cast<uintptr_t>(block.stride0);
-    return places;
-}
-template <class T>
-ZEPM_INLINE Places placesOf(const ListBlock<T, 2>& block, int32 n)
-{
-    Places places = placesOf(StridedBlock<T, true, 2>{nullptr, 0, block.stride1, block.stride2}, n);
-    places.table = reinterpret_cast<const char*>(block.pp);
-    places.first = static_cast<uintptr_t>(block.roiShift);
-    return places;
-}
-template <class T>
-ZEPM_INLINE Places placesOf(const TableBlock<T, true>& block, int32 n)
-{
-    Places places;
-    for (int32 ij = 0; ij < n * n; ++ij) places.element[ij] = reinterpret_cast<uintptr_t>(block.pp[ij]);
-    places.table = nullptr;
-    places.first = static_cast<uintptr_t>(block.roiShift + block.shareOffset);
-    places.stride0 = static_cast<uintptr_t>(block.stride0);
-    return places;
-}
-
-// Objects in their order, up to the first that fails. Where the order is small they are solved in groups; a group in
-// which one fails is taken one by one.
+// Where the order is small, objects go in groups.
 template <Rules rules, Access access, class X>
-ZEPM_INLINE Status solveArray(const X& x)
+ZEPM_INLINE Status solveSymmetricArray(const X& x)
 {
     using T = typename X::Element;
     constexpr bool withVectors = requires { x.dst; };
     const int32 n = x.widthHeight;
     const auto source = x.src.template view<access == Packed>(n);
     const auto v = vectorsOf<access>(x);
-    const auto solveUpTo = [&](int32 first, int32 end) {
-        Status status = stsOk;
-        for (int32 k = first; k < end && status == stsOk; ++k)
-            status = solveObject<rules, T>(source.object(k), objectOf(v, k),
-                                           bytes(x.dstValues.p + static_cast<ptrdiff_t>(k) * n), x.pBuffer.p, n);
-        return status;
+    const auto one = [&](int32 k) ZEPM_INLINED {
+        return solveSymmetricObject<rules, T>(source.object(k), vectorsOfObject(v, k),
+                                              bytes(x.dstValues.object(k, n).p), x.pBuffer.p, n);
     };
-    if (n < smallestGroupOrder || n > largestGroupOrder) return solveUpTo(0, x.count);
-
-    GroupCall call;
+    if (n < smallestGroupOrder || n > largestGroupOrder)
+    {
+        for (int32 k = 0; k < x.count; ++k)
+            if (const Status status = one(k)) return status;
+        return stsOk;
+    }
+    SymmetricCall call;
     call.src = placesOf(x.src, n);
     if constexpr (withVectors) call.vectors = placesOf(x.dst, n);
     call.values = bytes(x.dstValues.p);
     call.order = n;
-    for (int32 k = 0; k < x.count;)
-    {
-        k = ZEPM_AT_LEVEL(solveGroups<T, withVectors>)(call, k, x.count);
-        const int32 end = x.count - k < mostInGroup ? x.count : k + mostInGroup;
-        if (const Status status = solveUpTo(k, end)) return status;
-        k = end;
-    }
-    return stsOk;
+    const SymmetricGroupSolver groups = ZEPM_AT_LEVEL(symmetricGroupSolver<T, withVectors>)(n);
+    return forGroups(
+        x.count, groups.size, 1, [&](int32 k, int32 size) ZEPM_INLINED { return groups.solve(call, k, size); }, one);
 }
 
 } // namespace zepm

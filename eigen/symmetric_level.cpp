@@ -2,7 +2,6 @@
 // order; what the others still need is done under a mask.
 #include "eigen/symmetric_groups.h"
 
-#include "eigen/lanes.h"
 #include "eigen/symmetric.h"
 
 namespace zepm::ZEPM_LEVEL
@@ -18,7 +17,7 @@ inline constexpr int32 largestOrder<FixedOrder<Order>> = Order;
 
 // Rows of n elements of each object of a group. float32 elements may be held as float64.
 template <class T, class Number, class N, int Rows>
-struct Elements
+struct GroupElements
 {
     N n;
     Number x[Rows * largestOrder<N>];
@@ -40,20 +39,20 @@ struct Elements
 };
 
 template <class T, class Number_, class N, bool WithVectors>
-struct Group
+struct SymmetricGroup
 {
     using Element = T;
     using Number = Number_;
     using Mask = typename NumberTraits<Number>::Mask;
-    using Matrix = Elements<T, Number, N, largestOrder<N>>;
-    using Row = Elements<T, Number, N, 1>;
+    using Matrix = GroupElements<T, Number, N, largestOrder<N>>;
+    using Row = GroupElements<T, Number, N, 1>;
 
     N n;
     Matrix a;
     std::conditional_t<WithVectors, Matrix, NoVectors> v;
     Row values;
 
-    ZEPM_INLINE explicit Group(N order) : n(order)
+    ZEPM_INLINE explicit SymmetricGroup(N order) : n(order)
     {
         a.n = values.n = order;
         if constexpr (WithVectors) v.n = order;
@@ -114,103 +113,61 @@ private:
     }
 };
 
-// ---- Between memory and lanes ---------------------------------------------------------------------------------------
-
-// Element ij of all objects of a group.
-template <class T, class S, int R>
-ZEPM_INLINE void gather(Lanes<S, R>& x, uintptr_t element, const uintptr_t (&objects)[Lanes<S, R>::count])
-{
-    constexpr int N = lanes<S>;
-    ZEPM_UNROLL
-    for (int r = 0; r < R; ++r)
-        x.part[r] = [&]<int... Lane>(std::integer_sequence<int, Lane...>) ZEPM_INLINED
-    {
-        const auto at = [&](int lane) ZEPM_INLINED {
-            return load<T>(reinterpret_cast<const char*>(element + objects[r * N + lane]));
-        };
-        if constexpr (std::is_same_v<T, S>)
-            return Vec<S, N>{at(Lane)...};
-        else
-            return Vec<S, N>(widened(decltype(narrowed(typename RegisterOf<S>::type())){at(Lane)...}));
-    }
-    (std::make_integer_sequence<int, N>{});
-}
-
-// The same as it is stored object by object.
-template <class T, class S, int R>
-ZEPM_INLINE void spread(T* to, const Lanes<S, R>& x)
-{
-    constexpr int N = lanes<S>;
-    ZEPM_UNROLL
-    for (int r = 0; r < R; ++r)
-    {
-        if constexpr (std::is_same_v<T, S>)
-        {
-            storeVec<T, N>(reinterpret_cast<char*>(to + r * N), x.part[r]);
-        }
-        else
-        {
-            const auto narrow = narrowed(typename RegisterOf<S>::type(x.part[r]));
-            __builtin_memcpy(to + r * N, &narrow, N * sizeof(T));
-        }
-    }
-}
-
 template <class T, bool WithVectors>
 inline constexpr Rules rules{.wideScalars = WithVectors && sizeof(T) == 4};
 
-template <class T, class Number, class N, bool WithVectors>
-int32 solveGroupsOf(const GroupCall& call, N n, int32 first, int32 count)
+template <class T, bool WithVectors>
+using NumberOf = Numbers<std::conditional_t<rules<T, WithVectors>.wideScalars, float64, T>, 2>;
+
+template <class T, bool WithVectors, class N>
+bool solveGroup(const SymmetricCall& call, int32 k, int32 count)
 {
+    using Number = NumberOf<T, WithVectors>;
     constexpr int size = Number::count;
-    static_assert(size <= mostInGroup);
-    constexpr ptrdiff_t sz = sizeof(T);
-    for (int32 k = first; k < count; k += size)
+    N n{};
+    if constexpr (!isWrittenOut<N>) n = call.order;
+
+    SymmetricGroup<T, Number, N, WithVectors> group(n);
+    uintptr_t objects[size];
+    for (int32 lane = 0; lane < size; ++lane) objects[lane] = call.src.object(k + (lane < count ? lane : 0));
+    ascend(n, 0, n * n, [&](int32 ij) ZEPM_INLINED { gatherNumbers<T>(group.a.x[ij], call.src.element[ij], objects); });
+    if constexpr (WithVectors)
+        ascend(n, 0, n * n, [&](int32 ij) ZEPM_INLINED { group.v.x[ij] = Number(ij % (n + 1) == 0 ? 1 : 0); });
+
+    if (diagonaliseAndSort<rules<T, WithVectors>>(group) != stsOk) return false;
+
+    T values[largestOrder<N>][size];
+    ascend(n, 0, n, [&](int32 i) ZEPM_INLINED { storeNumbers(values[i], group.values.x[i]); });
+    char* const to = call.values + static_cast<ptrdiff_t>(k) * n * sz<T>;
+    for (int32 lane = 0; lane < count; ++lane)
+        ascend(n, 0, n, [&](int32 i) ZEPM_INLINED { store<T>(to + (lane * n + i) * sz<T>, values[i][lane]); });
+    if constexpr (WithVectors)
     {
-        const int32 inGroup = count - k < size ? count - k : size;
-        Group<T, Number, N, WithVectors> group(n);
-        uintptr_t objects[size];
-        for (int32 lane = 0; lane < size; ++lane) objects[lane] = call.src.object(k + (lane < inGroup ? lane : 0));
-        ascend(n, 0, n * n, [&](int32 ij) ZEPM_INLINED { gather<T>(group.a.x[ij], call.src.element[ij], objects); });
-        if constexpr (WithVectors)
-            ascend(n, 0, n * n, [&](int32 ij) ZEPM_INLINED { group.v.x[ij] = Number(ij % (n + 1) == 0 ? 1 : 0); });
-
-        if (solve<rules<T, WithVectors>>(group) != stsOk) return k;
-
-        T values[largestOrder<N>][size];
-        ascend(n, 0, n, [&](int32 i) ZEPM_INLINED { spread(values[i], group.values.x[i]); });
-        char* const to = call.values + static_cast<ptrdiff_t>(k) * n * sz;
-        for (int32 lane = 0; lane < inGroup; ++lane)
-            ascend(n, 0, n, [&](int32 i) ZEPM_INLINED { store<T>(to + (lane * n + i) * sz, values[i][lane]); });
-        if constexpr (WithVectors)
+        T vectors[largestOrder<N> * largestOrder<N>][size];
+        ascend(n, 0, n * n, [&](int32 ij) ZEPM_INLINED { storeNumbers(vectors[ij], group.v.x[ij]); });
+        for (int32 lane = 0; lane < count; ++lane)
         {
-            T vectors[largestOrder<N> * largestOrder<N>][size];
-            ascend(n, 0, n * n, [&](int32 ij) ZEPM_INLINED { spread(vectors[ij], group.v.x[ij]); });
-            for (int32 lane = 0; lane < inGroup; ++lane)
-            {
-                const uintptr_t object = call.vectors.object(k + lane);
-                ascend(n, 0, n * n, [&](int32 ij) ZEPM_INLINED {
-                    store<T>(reinterpret_cast<char*>(call.vectors.element[ij] + object), vectors[ij][lane]);
-                });
-            }
+            const uintptr_t object = call.vectors.object(k + lane);
+            ascend(n, 0, n * n, [&](int32 ij) ZEPM_INLINED {
+                store<T>(reinterpret_cast<char*>(call.vectors.element[ij] + object), vectors[ij][lane]);
+            });
         }
     }
-    return count;
+    return true;
 }
 
 } // namespace
 
 template <class T, bool WithVectors>
-int32 solveGroups(const GroupCall& call, int32 first, int32 count)
+SymmetricGroupSolver symmetricGroupSolver(int32 order)
 {
-    using Number = Lanes<std::conditional_t<rules<T, WithVectors>.wideScalars, float64, T>, 2>;
-    if (call.order == 3) return solveGroupsOf<T, Number, FixedOrder<3>, WithVectors>(call, {}, first, count);
-    return solveGroupsOf<T, Number, int32, WithVectors>(call, call.order, first, count);
+    return {NumberOf<T, WithVectors>::count,
+            order == 3 ? solveGroup<T, WithVectors, FixedOrder<3>> : solveGroup<T, WithVectors, int32>};
 }
 
-template int32 solveGroups<float32, false>(const GroupCall&, int32, int32);
-template int32 solveGroups<float32, true>(const GroupCall&, int32, int32);
-template int32 solveGroups<float64, false>(const GroupCall&, int32, int32);
-template int32 solveGroups<float64, true>(const GroupCall&, int32, int32);
+template SymmetricGroupSolver symmetricGroupSolver<float32, false>(int32);
+template SymmetricGroupSolver symmetricGroupSolver<float32, true>(int32);
+template SymmetricGroupSolver symmetricGroupSolver<float64, false>(int32);
+template SymmetricGroupSolver symmetricGroupSolver<float64, true>(int32);
 
 } // namespace zepm::ZEPM_LEVEL

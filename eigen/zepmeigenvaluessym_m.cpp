@@ -15,13 +15,22 @@ constexpr Rules plain{}, wideRootTopDown{.wideRootTopDown = true};
 
 Status ownEigenValuesSym_m_32f_Packed(const SymmetricValuesM<float32, S>& x)
 {
-    return solveOne<wideRootTopDown, Packed>(x);
+    return solveSymmetric<wideRootTopDown, Packed>(x);
 }
-Status ownEigenValuesSym_m_32f_Strided(const SymmetricValuesM<float32, S>& x) { return solveOne<plain, Strided>(x); }
-Status ownEigenValuesSym_m_32f_P(const SymmetricValuesM<float32, P>& x) { return solveOne<plain, Table>(x); }
-Status ownEigenValuesSym_m_64f_Packed(const SymmetricValuesM<float64, S>& x) { return solveOne<plain, Packed>(x); }
-Status ownEigenValuesSym_m_64f_Strided(const SymmetricValuesM<float64, S>& x) { return solveOne<plain, Strided>(x); }
-Status ownEigenValuesSym_m_64f_P(const SymmetricValuesM<float64, P>& x) { return solveOne<plain, Table>(x); }
+Status ownEigenValuesSym_m_32f_Strided(const SymmetricValuesM<float32, S>& x)
+{
+    return solveSymmetric<plain, Strided>(x);
+}
+Status ownEigenValuesSym_m_32f_P(const SymmetricValuesM<float32, P>& x) { return solveSymmetric<plain, Table>(x); }
+Status ownEigenValuesSym_m_64f_Packed(const SymmetricValuesM<float64, S>& x)
+{
+    return solveSymmetric<plain, Packed>(x);
+}
+Status ownEigenValuesSym_m_64f_Strided(const SymmetricValuesM<float64, S>& x)
+{
+    return solveSymmetric<plain, Strided>(x);
+}
+Status ownEigenValuesSym_m_64f_P(const SymmetricValuesM<float64, P>& x) { return solveSymmetric<plain, Table>(x); }
 
 } // namespace zepm
 

@@ -17,25 +17,28 @@ constexpr Rules wideRootsSorted{.wideRootTopDown = true, .wideRootBottomUp = tru
 
 Status ownEigenValuesVectorsSym_m_32f_Packed(const SymmetricVectorsM<float32, S>& x)
 {
-    return solveOne<wideRootsSorted, Packed>(x);
+    return solveSymmetric<wideRootsSorted, Packed>(x);
 }
 Status ownEigenValuesVectorsSym_m_32f_Strided(const SymmetricVectorsM<float32, S>& x)
 {
-    return solveOne<wideRoots, Strided>(x);
+    return solveSymmetric<wideRoots, Strided>(x);
 }
 Status ownEigenValuesVectorsSym_m_32f_P(const SymmetricVectorsM<float32, P>& x)
 {
-    return solveOne<wideRootsSorted, Table>(x);
+    return solveSymmetric<wideRootsSorted, Table>(x);
 }
 Status ownEigenValuesVectorsSym_m_64f_Packed(const SymmetricVectorsM<float64, S>& x)
 {
-    return solveOne<sorted, Packed>(x);
+    return solveSymmetric<sorted, Packed>(x);
 }
 Status ownEigenValuesVectorsSym_m_64f_Strided(const SymmetricVectorsM<float64, S>& x)
 {
-    return solveOne<sorted, Strided>(x);
+    return solveSymmetric<sorted, Strided>(x);
 }
-Status ownEigenValuesVectorsSym_m_64f_P(const SymmetricVectorsM<float64, P>& x) { return solveOne<sorted, Table>(x); }
+Status ownEigenValuesVectorsSym_m_64f_P(const SymmetricVectorsM<float64, P>& x)
+{
+    return solveSymmetric<sorted, Table>(x);
+}
 
 } // namespace zepm
 
@@ -45,8 +48,8 @@ Status zepmEigenValuesVectorsSym_m_32f(const float32* pSrc, int32 srcStride1, in
                                        float32* pDstVectors, int32 dstStride1, int32 dstStride2, float32* pDstValues,
                                        int32 widthHeight)
 {
-    const SymmetricVectorsM<float32, S> x{{pSrc, srcStride1, srcStride2}, pBuffer, {pDstVectors, dstStride1,
-                                          dstStride2}, pDstValues, widthHeight};
+    const SymmetricVectorsM<float32, S> x{
+        {pSrc, srcStride1, srcStride2}, pBuffer, {pDstVectors, dstStride1, dstStride2}, pDstValues, widthHeight};
     return enter(x, order<Pointers, Sizes, Strides>{}, ownEigenValuesVectorsSym_m_32f_Packed,
                  ownEigenValuesVectorsSym_m_32f_Strided);
 }
@@ -63,8 +66,8 @@ Status zepmEigenValuesVectorsSym_m_64f(const float64* pSrc, int32 srcStride1, in
                                        float64* pDstVectors, int32 dstStride1, int32 dstStride2, float64* pDstValues,
                                        int32 widthHeight)
 {
-    const SymmetricVectorsM<float64, S> x{{pSrc, srcStride1, srcStride2}, pBuffer, {pDstVectors, dstStride1,
-                                          dstStride2}, pDstValues, widthHeight};
+    const SymmetricVectorsM<float64, S> x{
+        {pSrc, srcStride1, srcStride2}, pBuffer, {pDstVectors, dstStride1, dstStride2}, pDstValues, widthHeight};
     return enter(x, order<Pointers, Sizes, Strides>{}, ownEigenValuesVectorsSym_m_64f_Packed,
                  ownEigenValuesVectorsSym_m_64f_Strided);
 }

@@ -8,6 +8,7 @@
 #include "elementwise/forms.h"
 #include "elementwise/row.h"
 #include "elementwise/rows.h"
+#include "frame/written.h"
 
 namespace zepm
 {
@@ -42,16 +43,6 @@ ZEPM_INLINE auto viewOf(const Block& block, const X& x)
 
 // ---- Plain loops ----------------------------------------------------------------------------------------------------
 
-// The sizes for which a kernel's loops over elements are written out: lengths of vectors, orders of square matrices.
-template <int Rank, int32... Size>
-struct written
-{
-};
-template <int32... Length>
-using lengths = written<1, Length...>;
-template <int32... Order>
-using orders = written<2, Order...>;
-
 // One object, ascending: with overlapping operands each result may feed the next, as a plain loop gives it.
 template <class Op, class A, class B, class D>
 ZEPM_INLINE void combineObject(Op op, const A& a, const B& b, const D& d, int32 width, int32 height)
@@ -63,8 +54,7 @@ ZEPM_INLINE void combineObject(Op op, const A& a, const B& b, const D& d, int32 
 template <int32 Width, int32 Height, class Op, class A, class B, class D>
 ZEPM_INLINE void combineWritten(Op op, const A& a, const B& b, const D& d)
 {
-    auto row = [&](int32 i) __attribute__((always_inline))
-    {
+    auto row = [&](int32 i) ZEPM_INLINED {
         ZEPM_UNROLL
         for (int32 j = 0; j < Width; ++j) d.set(i, j, op(a.get(i, j), b.get(i, j)));
     };
@@ -74,20 +64,21 @@ ZEPM_INLINE void combineWritten(Op op, const A& a, const B& b, const D& d)
         for (int32 i = 0; i < Height; ++i) row(i);
 }
 
-// The test on the size comes once a call, outside the loop over objects.
-template <class Op, class A, class B, class D, int Rank, int32... Sizes>
+// The test on the size comes once a call, outside the loop over objects. The sizes written out are lengths of vectors
+// or orders of square matrices.
+template <int Rank, class Op, class A, class B, class D, class Written>
 ZEPM_INLINE void combineViews(Op op, const A& a, const B& b, const D& d, int32 width, int32 height, int32 count,
-                              written<Rank, Sizes...>)
+                              Written written)
 {
-    [[maybe_unused]] auto combineIfSize = [&]<int32 Width>() __attribute__((always_inline))
-    {
-        constexpr int32 Height = Rank == 1 ? 1 : Width;
-        if (width != Width || height != Height) return false;
-        for (int32 k = 0; k < count; ++k) combineWritten<Width, Height>(op, a.object(k), b.object(k), d.object(k));
-        return true;
-    };
-    if ((... || combineIfSize.template operator()<Sizes>())) return;
-    for (int32 k = 0; k < count; ++k) combineObject(op, a.object(k), b.object(k), d.object(k), width, height);
+    forSize(
+        Rank == 1 || width == height ? width : 0, written,
+        [&]<int32 Width>() ZEPM_INLINED {
+            constexpr int32 Height = Rank == 1 ? 1 : Width;
+            for (int32 k = 0; k < count; ++k) combineWritten<Width, Height>(op, a.object(k), b.object(k), d.object(k));
+        },
+        [&]() ZEPM_INLINED {
+            for (int32 k = 0; k < count; ++k) combineObject(op, a.object(k), b.object(k), d.object(k), width, height);
+        });
 }
 
 // ---- Contiguous rows ------------------------------------------------------------------------------------------------
@@ -167,51 +158,48 @@ ZEPM_INLINE auto inTheirOrder(Op op, const X& x, F f)
 template <class Op, class X>
 ZEPM_INLINE bool combineIfDense(Op op, const X& call)
 {
-    return inTheirOrder(
-        op, call, [](auto inOrder, const auto& x, auto a, auto b) __attribute__((always_inline)) {
-            using A = decltype(a);
-            using B = decltype(b);
-            using Dst = decltype(x.dst);
-            if constexpr (!isTransposedBlock<A> && !isTransposedBlock<B> && !isListBlock<Dst>)
+    return inTheirOrder(op, call, [](auto inOrder, const auto& x, auto a, auto b) ZEPM_INLINED {
+        using A = decltype(a);
+        using B = decltype(b);
+        using Dst = decltype(x.dst);
+        if constexpr (!isTransposedBlock<A> && !isTransposedBlock<B> && !isListBlock<Dst>)
+        {
+            if (liesDense(a, x) && liesDense(b, x) && liesDense(x.dst, x))
             {
-                if (liesDense(a, x) && liesDense(b, x) && liesDense(x.dst, x))
-                {
-                    ZEPM_AT_LEVEL(combineDense<decltype(inOrder), typename Dst::Element>)
-                    (rowsOf(a).p, rowsOf(b).p, bytes(x.dst.p), static_cast<ptrdiff_t>(x.width) * x.height, x.count,
-                     sourcesOf<A, B>);
-                    return true;
-                }
+                ZEPM_AT_LEVEL(combineDense<decltype(inOrder), typename Dst::Element>)
+                (rowsOf(a).p, rowsOf(b).p, bytes(x.dst.p), static_cast<ptrdiff_t>(x.width) * x.height, x.count,
+                 sourcesOf<A, B>);
+                return true;
             }
-            return false;
-        });
+        }
+        return false;
+    });
 }
 
 // Objects with contiguous rows.
 template <class Op, class X>
 ZEPM_INLINE void combineContiguous(Op op, const X& call)
 {
-    inTheirOrder(
-        op, call, [](auto inOrder, const auto& x, const auto& a, const auto& b) __attribute__((always_inline)) {
-            using A = std::remove_cvref_t<decltype(a)>;
-            using B = std::remove_cvref_t<decltype(b)>;
-            using Dst = decltype(x.dst);
-            using InOrder = decltype(inOrder);
-            const RowCall rows{rowsOf(a),        rowsOf(b), rowsOf(x.dst), isConstantBlock<B>,
-                               isListBlock<Dst>, x.width,   x.count};
-            if constexpr (X::rank == 1)
-                ZEPM_AT_LEVEL(combineRows<InOrder, typename Dst::Element>)(rows);
-            else
-            {
-                MatrixCall matrices{rows,
-                                    x.height,
-                                    rowStrideOf(a),
-                                    rowStrideOf(b),
-                                    rowStrideOf(x.dst),
-                                    isTransposedBlock<A>,
-                                    isTransposedBlock<B>};
-                ZEPM_AT_LEVEL(combineMatrices<InOrder, typename Dst::Element>)(matrices);
-            }
-        });
+    inTheirOrder(op, call, [](auto inOrder, const auto& x, const auto& a, const auto& b) ZEPM_INLINED {
+        using A = std::remove_cvref_t<decltype(a)>;
+        using B = std::remove_cvref_t<decltype(b)>;
+        using Dst = decltype(x.dst);
+        using InOrder = decltype(inOrder);
+        const RowCall rows{rowsOf(a), rowsOf(b), rowsOf(x.dst), isConstantBlock<B>, isListBlock<Dst>, x.width, x.count};
+        if constexpr (X::rank == 1)
+            ZEPM_AT_LEVEL(combineRows<InOrder, typename Dst::Element>)(rows);
+        else
+        {
+            MatrixCall matrices{rows,
+                                x.height,
+                                rowStrideOf(a),
+                                rowStrideOf(b),
+                                rowStrideOf(x.dst),
+                                isTransposedBlock<A>,
+                                isTransposedBlock<B>};
+            ZEPM_AT_LEVEL(combineMatrices<InOrder, typename Dst::Element>)(matrices);
+        }
+    });
 }
 
 // ---- Elements side by side ------------------------------------------------------------------------------------------
@@ -283,18 +271,15 @@ ZEPM_INLINE void combineVector(Op op, const X& x)
     case 6: return baseline::rowOf<T, 6>(op, a, b, d);
     default: break;
     }
-    auto apart = [&](const char* s) __attribute__((always_inline))
-    {
+    auto apart = [&](const char* s) ZEPM_INLINED {
         return s == d || baseline::areApart(s, d, x.width * static_cast<ptrdiff_t>(sizeof(T)));
     };
     bool isApart = x.width > 6 && apart(a);
     if constexpr (!isConstant) isApart = isApart && apart(b);
-    if (isApart)
-        ZEPM_AT_LEVEL(combineDense<Op, T>)
-        (a, rowsOf(x.src2).p, d, x.width, 1, sourcesOf<decltype(x.src1), decltype(x.src2)>);
-    else
-        combineObject(op, viewOf<true>(x.src1, x).object(0), viewOf<true>(x.src2, x).object(0),
-                      viewOf<true>(x.dst, x).object(0), x.width, 1);
+    if (isApart) ZEPM_AT_LEVEL(combineDense<Op, T>)
+    (a, rowsOf(x.src2).p, d, x.width, 1, sourcesOf<decltype(x.src1), decltype(x.src2)>);
+    else combineObject(op, viewOf<true>(x.src1, x).object(0), viewOf<true>(x.src2, x).object(0),
+                       viewOf<true>(x.dst, x).object(0), x.width, 1);
 }
 
 // Contiguous elements.
@@ -309,8 +294,8 @@ ZEPM_INLINE Status combinePacked(Op op, const X& x)
 }
 
 // Elements at any distance, or behind tables; the sizes are those written out.
-template <class Op, class X, class Written = lengths<>>
-ZEPM_INLINE Status combineStrided(Op op, const X& x, Written sizes = {})
+template <class Op, class X, class Written = sizes<>>
+ZEPM_INLINE Status combineStrided(Op op, const X& x, Written written = {})
 {
     using Dst = decltype(x.dst);
     if constexpr (Dst::isArray && !isListBlock<Dst>)
@@ -321,29 +306,15 @@ ZEPM_INLINE Status combineStrided(Op op, const X& x, Written sizes = {})
             return stsOk;
         }
     }
-    combineViews(op, viewOf<false>(x.src1, x), viewOf<false>(x.src2, x), viewOf<false>(x.dst, x), x.width, x.height,
-                 x.count, sizes);
+    combineViews<X::rank>(op, viewOf<false>(x.src1, x), viewOf<false>(x.src2, x), viewOf<false>(x.dst, x), x.width,
+                          x.height, x.count, written);
     return stsOk;
 }
 
-template <class Op, class X, class Written = lengths<>>
-ZEPM_INLINE Status combineTable(Op op, const X& x, Written sizes = {})
+template <class Op, class X, class Written = sizes<>>
+ZEPM_INLINE Status combineTable(Op op, const X& x, Written written = {})
 {
-    return combineStrided(op, x, sizes);
-}
-
-// The arrays of L whose kernel is a loop over the kernel of one object.
-template <class X, class One>
-ZEPM_INLINE Status forEachObject(const X& x, Status (*kernel)(const One&))
-{
-    for (int32 k = 0; k < x.count; ++k)
-    {
-        if constexpr (X::rank == 1)
-            kernel({x.src1.object(k), x.src2.object(k), x.dst.object(k), x.width});
-        else
-            kernel({x.src1.object(k), x.src2.object(k), x.dst.object(k), x.width, x.height});
-    }
-    return stsOk;
+    return combineStrided(op, x, written);
 }
 
 // ---- The way in -----------------------------------------------------------------------------------------------------
@@ -364,7 +335,7 @@ ZEPM_INLINE Status enterDense(Op op, const X& x, Order, Limits, KernelOf<X>* pac
                               KernelOf<X>* driver)
 {
     using Sound = order<Pointers, Sizes, Count>;
-    if (x.isPacked() && Sound::check(x) == stsOk && !isHeavy<Limits::packed>(x) && combineIfDense(op, x)) return stsOk;
+    if (isPacked(x) && Sound::check(x) == stsOk && !isHeavy<Limits::packed>(x) && combineIfDense(op, x)) return stsOk;
     const X stored = x;
     return enterStored<X, Order, Limits>(stored, packed, general, driver);
 }

@@ -98,11 +98,16 @@ struct Elementwise : Extent<Rank>
         return f(src1) && f(src2) && f(dst);
     }
     ZEPM_INLINE bool sizesValid() const { return width >= 1 && height >= 1; }
-    ZEPM_INLINE bool isPacked() const
-    {
-        return operands([](const auto& block) { return block.contiguous(); });
-    }
     ZEPM_INLINE int32 estimate() const { return Estimate::of(*this).estimate(); }
+    // Object k alone.
+    template <class One>
+    ZEPM_INLINE One object(int32 k) const
+    {
+        if constexpr (Rank == 1)
+            return {src1.object(k), src2.object(k), dst.object(k), width};
+        else
+            return {src1.object(k), src2.object(k), dst.object(k), width, height};
+    }
     ZEPM_INLINE Elementwise share(int32 first, int32 n) const
     {
         Elementwise part = *this;

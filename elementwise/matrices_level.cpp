@@ -2,7 +2,6 @@
 // result element is one operation on its own two elements, which are read before it is written.
 #include "elementwise/row.h"
 #include "elementwise/rows.h"
-#include "elementwise/tile.h"
 #include "frame/streams.h"
 
 namespace zepm::ZEPM_LEVEL
@@ -62,8 +61,7 @@ template <int Width, bool IsList, class T, class Op>
     {
         const char *rowA = a.at(), *rowB = b.at();
         char* rowD = const_cast<char*>(d.at());
-        auto nextRow = [&]() __attribute__((always_inline))
-        {
+        auto nextRow = [&]() ZEPM_INLINED {
             if constexpr (takesConstantAlone<Op>)
                 rowOf<T, Width>(op, rowA, constant, rowD);
             else
@@ -71,7 +69,7 @@ template <int Width, bool IsList, class T, class Op>
             rowA += strideA, rowB += strideB, rowD += strideD;
         };
         if (height == Width)
-            forEachIndex<Width>([&]<int>() __attribute__((always_inline)) { nextRow(); });
+            each<Width>([&]<int>() ZEPM_INLINED { nextRow(); });
         else
             for (ptrdiff_t i = 0; i < height; ++i) nextRow();
         a.next(), b.next(), d.next();
@@ -165,14 +163,14 @@ struct Tiles
     ZEPM_INLINE void tile(ptrdiff_t i, ptrdiff_t j) const
     {
         Vec<T, N> x[N] = {};
-        forEachIndex<Columns>([&]<int C>() __attribute__((always_inline)) {
-            x[C] = loadPart<T, N, Rows>(atA(j + C, i));
-            if constexpr (second == Second::Transposed) x[C] = op(x[C], loadPart<T, N, Rows>(atB(j + C, i)));
+        each<Columns>([&]<int C>() ZEPM_INLINED {
+            x[C] = loadFirst<T, N, Rows>(atA(j + C, i));
+            if constexpr (second == Second::Transposed) x[C] = op(x[C], loadFirst<T, N, Rows>(atB(j + C, i)));
             if constexpr (second == Second::Constant) x[C] = op(x[C], broadcast<T, N>(constant));
         });
         transpose<T, N>(x);
-        forEachIndex<Rows>([&]<int R>() __attribute__((always_inline)) {
-            pieces<T, Columns, N>([&]<int Count, int J>() __attribute__((always_inline)) {
+        each<Rows>([&]<int R>() ZEPM_INLINED {
+            pieces<T, Columns, N>([&]<int Count, int J>() ZEPM_INLINED {
                 Vec<T, Count> y = lanesOf<T, N, J, Count>(x[R]);
                 if constexpr (second == Second::Normal) y = op(y, loadVec<T, Count>(atB(i + R, j + J)));
                 storeVec<T, Count>(atD(i + R, j + J), y);
@@ -308,17 +306,16 @@ template <int Order, int Together, Second second, class T, class Op>
     const ptrdiff_t aStep = c.a.toNext(), bStep = c.b.toNext(), dStep = c.d.stride;
     T constant{};
     if constexpr (second == Second::Constant) constant = load<T>(b);
-    auto some = [&]<int Objects>() __attribute__((always_inline))
-    {
+    auto some = [&]<int Objects>() ZEPM_INLINED {
         using Matrix = Whole<T, Order, Objects>;
         constexpr int N = Matrix::N, registers = Matrix::registers;
         Vec<T, N> x[registers] = {};
-        forEachIndex<registers>([&]<int R>() __attribute__((always_inline)) {
+        each<registers>([&]<int R>() ZEPM_INLINED {
             x[R] = loadVec<T, N>(a + R * N * sz<T>);
             if constexpr (second == Second::Transposed) x[R] = op(x[R], loadVec<T, N>(b + R * N * sz<T>));
             if constexpr (second == Second::Constant) x[R] = op(x[R], broadcast<T, N>(constant));
         });
-        forEachIndex<registers>([&]<int R>() __attribute__((always_inline)) {
+        each<registers>([&]<int R>() ZEPM_INLINED {
             Vec<T, N> y = shuffle<T, N>(x[Matrix::template first<R>], x[Matrix::template second<R>],
                                         typename Matrix::template Place<R>{});
             if constexpr (second == Second::Normal) y = op(y, loadVec<T, N>(b + R * N * sz<T>));

@@ -2,13 +2,10 @@
 // so a destination that is one of the sources is served; other overlaps are not.
 #pragma once
 
-#include "frame/lanes.h"
+#include "frame/machine.h"
 
 namespace zepm::ZEPM_LEVEL
 {
-
-template <class T>
-inline constexpr ptrdiff_t sz = sizeof(T);
 
 // Whether two operands of so many bytes have none in common.
 ZEPM_INLINE bool areApart(const char* a, const char* b, ptrdiff_t size)
@@ -111,7 +108,7 @@ ZEPM_INLINE void pieces(Visit visit)
 template <class T, int Length, class Op, class B>
 ZEPM_INLINE void rowOf(Op op, const char* a, B b, char* d)
 {
-    pieces<T, Length>([&]<int N, int J>() __attribute__((always_inline)) { piece<T, N>(op, a, b, d, J); });
+    pieces<T, Length>([&]<int N, int J>() ZEPM_INLINED { piece<T, N>(op, a, b, d, J); });
 }
 
 } // namespace zepm::ZEPM_LEVEL

@@ -107,7 +107,7 @@ ZEPM_INLINE Vec<T, N> repeated(const char* p)
     if constexpr (J + N <= Length)
         return loadVec<T, N>(p + J * sz<T>);
     else
-        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) ZEPM_INLINED
         {
             return Vec<T, N>{load<T>(p + (J + Lane) % Length * sz<T>)...};
         }
@@ -189,7 +189,7 @@ ZEPM_INLINE void rows(Op op, A a, B b, D d, ptrdiff_t width, ptrdiff_t count)
         b.enter();
         char* const to = const_cast<char*>(d.at());
         if constexpr (Length > 0)
-            pieces<T, Length>([&]<int N, int J>() __attribute__((always_inline)) {
+            pieces<T, Length>([&]<int N, int J>() ZEPM_INLINED {
                 const Vec<T, N> x = op(a.template get<N, J>(), b.template get<N, J>());
                 if constexpr (Streams)
                     streamVec<T>(to + J * sz<T>, x);
@@ -347,12 +347,10 @@ template <class T, int Length, Sources sources, bool Streams, class Op>
 [[gnu::noinline]] void groupsOf(Op op, const char* a, const char* b, char* d, ptrdiff_t toSecond, ptrdiff_t count)
 {
     constexpr int size = groupSize<T, Length, sources>();
-    auto lying = [&](const char* p, ptrdiff_t rowBytes) __attribute__((always_inline))
-    {
+    auto lying = [&](const char* p, ptrdiff_t rowBytes) ZEPM_INLINED {
         return SteppingFrom{p, toSecond * rowBytes, size * rowBytes};
     };
-    auto along = [&](auto first, auto second) __attribute__((always_inline))
-    {
+    auto along = [&](auto first, auto second) ZEPM_INLINED {
         rows<T, Length * size, Streams>(op, first, second, lying(d, Length * sz<T>), 0, count);
     };
     const Elements<T, SteppingFrom> rowsA{lying(a, Length * sz<T>)};

@@ -9,7 +9,7 @@ namespace zepm
 Status ownAdd_mat_32f_Packed(const CombineMat<float32, S>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_mat_32f_Strided(const CombineMat<float32, S>& x)
 {
-    return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_mat_32f_L_Packed(const CombineMat<float32, L>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_mat_32f_L_Strided(const CombineMat<float32, L>& x) { return combineStrided(Plus{}, x); }

@@ -9,19 +9,19 @@ namespace zepm
 Status ownAdd_tam_32f_Packed(const CombineTam<float32, S>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_tam_32f_Strided(const CombineTam<float32, S>& x)
 {
-    return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_tam_32f_L_Packed(const CombineTam<float32, L>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_tam_32f_L_Strided(const CombineTam<float32, L>& x) { return forEachObject(x, ownAdd_tm_32f_Strided); }
-Status ownAdd_tam_32f_P(const CombineTam<float32, P>& x) { return combineTable(Plus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownAdd_tam_32f_P(const CombineTam<float32, P>& x) { return combineTable(Plus{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownAdd_tam_64f_Packed(const CombineTam<float64, S>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_tam_64f_Strided(const CombineTam<float64, S>& x)
 {
-    return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_tam_64f_L_Packed(const CombineTam<float64, L>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_tam_64f_L_Strided(const CombineTam<float64, L>& x) { return forEachObject(x, ownAdd_tm_64f_Strided); }
-Status ownAdd_tam_64f_P(const CombineTam<float64, P>& x) { return combineTable(Plus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownAdd_tam_64f_P(const CombineTam<float64, P>& x) { return combineTable(Plus{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

@@ -7,11 +7,11 @@ namespace zepm
 {
 
 Status ownAdd_tm_32f_Packed(const CombineTm<float32, S>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_tm_32f_Strided(const CombineTm<float32, S>& x) { return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownAdd_tm_32f_P(const CombineTm<float32, P>& x) { return combineTable(Plus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownAdd_tm_32f_Strided(const CombineTm<float32, S>& x) { return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{}); }
+Status ownAdd_tm_32f_P(const CombineTm<float32, P>& x) { return combineTable(Plus{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownAdd_tm_64f_Packed(const CombineTm<float64, S>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_tm_64f_Strided(const CombineTm<float64, S>& x) { return combineStrided(Plus{}, x, orders<3, 4, 5, 6>{}); }
-Status ownAdd_tm_64f_P(const CombineTm<float64, P>& x) { return combineTable(Plus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownAdd_tm_64f_Strided(const CombineTm<float64, S>& x) { return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{}); }
+Status ownAdd_tm_64f_P(const CombineTm<float64, P>& x) { return combineTable(Plus{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

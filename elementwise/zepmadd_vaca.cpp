@@ -9,23 +9,23 @@ namespace zepm
 Status ownAdd_vaca_32f_Packed(const CombineVaca<float32, S>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vaca_32f_Strided(const CombineVaca<float32, S>& x)
 {
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_vaca_32f_L_Packed(const CombineVaca<float32, L>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vaca_32f_L_Strided(const CombineVaca<float32, L>& x)
 {
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_vaca_32f_P(const CombineVaca<float32, P>& x) { return combineTable(Plus{}, x); }
 Status ownAdd_vaca_64f_Packed(const CombineVaca<float64, S>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vaca_64f_Strided(const CombineVaca<float64, S>& x)
 {
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_vaca_64f_L_Packed(const CombineVaca<float64, L>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vaca_64f_L_Strided(const CombineVaca<float64, L>& x)
 {
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_vaca_64f_P(const CombineVaca<float64, P>& x) { return combineTable(Plus{}, x); }
 

@@ -10,7 +10,7 @@ namespace zepm
 Status ownAdd_vav_32f_Packed(const CombineVav<float32, S>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vav_32f_Strided(const CombineVav<float32, S>& x)
 {
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_vav_32f_L_Packed(const CombineVav<float32, L>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vav_32f_L_Strided(const CombineVav<float32, L>& x) { return forEachObject(x, ownAdd_vv_32f_Strided); }
@@ -18,7 +18,7 @@ Status ownAdd_vav_32f_P(const CombineVav<float32, P>& x) { return combineTable(P
 Status ownAdd_vav_64f_Packed(const CombineVav<float64, S>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vav_64f_Strided(const CombineVav<float64, S>& x)
 {
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_vav_64f_L_Packed(const CombineVav<float64, L>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vav_64f_L_Strided(const CombineVav<float64, L>& x) { return forEachObject(x, ownAdd_vv_64f_Strided); }

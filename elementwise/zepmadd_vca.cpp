@@ -9,23 +9,23 @@ namespace zepm
 Status ownAdd_vca_32f_Packed(const CombineVca<float32, S>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vca_32f_Strided(const CombineVca<float32, S>& x)
 {
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_vca_32f_L_Packed(const CombineVca<float32, L>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vca_32f_L_Strided(const CombineVca<float32, L>& x)
 {
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_vca_32f_P(const CombineVca<float32, P>& x) { return combineTable(Plus{}, x); }
 Status ownAdd_vca_64f_Packed(const CombineVca<float64, S>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vca_64f_Strided(const CombineVca<float64, S>& x)
 {
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_vca_64f_L_Packed(const CombineVca<float64, L>& x) { return combinePacked(Plus{}, x); }
 Status ownAdd_vca_64f_L_Strided(const CombineVca<float64, L>& x)
 {
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownAdd_vca_64f_P(const CombineVca<float64, P>& x) { return combineTable(Plus{}, x); }
 

@@ -7,16 +7,10 @@ namespace zepm
 {
 
 Status ownAdd_vv_32f_Packed(const CombineVv<float32, S>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_vv_32f_Strided(const CombineVv<float32, S>& x)
-{
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
-}
+Status ownAdd_vv_32f_Strided(const CombineVv<float32, S>& x) { return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownAdd_vv_32f_P(const CombineVv<float32, P>& x) { return combineTable(Plus{}, x); }
 Status ownAdd_vv_64f_Packed(const CombineVv<float64, S>& x) { return combinePacked(Plus{}, x); }
-Status ownAdd_vv_64f_Strided(const CombineVv<float64, S>& x)
-{
-    return combineStrided(Plus{}, x, lengths<3, 4, 5, 6>{});
-}
+Status ownAdd_vv_64f_Strided(const CombineVv<float64, S>& x) { return combineStrided(Plus{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownAdd_vv_64f_P(const CombineVv<float64, P>& x) { return combineTable(Plus{}, x); }
 
 } // namespace zepm

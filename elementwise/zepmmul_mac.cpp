@@ -9,19 +9,19 @@ namespace zepm
 Status ownMul_mac_32f_Packed(const CombineMac<float32, S>& x) { return combinePacked(Times{}, x); }
 Status ownMul_mac_32f_Strided(const CombineMac<float32, S>& x)
 {
-    return combineStrided(Times{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Times{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownMul_mac_32f_L_Packed(const CombineMac<float32, L>& x) { return combinePacked(Times{}, x); }
 Status ownMul_mac_32f_L_Strided(const CombineMac<float32, L>& x) { return forEachObject(x, ownMul_mc_32f_Strided); }
-Status ownMul_mac_32f_P(const CombineMac<float32, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mac_32f_P(const CombineMac<float32, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_mac_64f_Packed(const CombineMac<float64, S>& x) { return combinePacked(Times{}, x); }
 Status ownMul_mac_64f_Strided(const CombineMac<float64, S>& x)
 {
-    return combineStrided(Times{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Times{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownMul_mac_64f_L_Packed(const CombineMac<float64, L>& x) { return combinePacked(Times{}, x); }
 Status ownMul_mac_64f_L_Strided(const CombineMac<float64, L>& x) { return forEachObject(x, ownMul_mc_64f_Strided); }
-Status ownMul_mac_64f_P(const CombineMac<float64, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mac_64f_P(const CombineMac<float64, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

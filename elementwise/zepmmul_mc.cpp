@@ -21,10 +21,10 @@ ZEPM_INLINE ScaleVac<T, S> rowsAsVectors(const CombineMc<T, S>& x)
 
 Status ownMul_mc_32f_Packed(const CombineMc<float32, S>& x) { return combinePacked(Times{}, x); }
 Status ownMul_mc_32f_Strided(const CombineMc<float32, S>& x) { return ownMul_vac_32f_Strided(rowsAsVectors(x)); }
-Status ownMul_mc_32f_P(const CombineMc<float32, P>& x) { return combineTable(Times{}, x, orders<5, 6>{}); }
+Status ownMul_mc_32f_P(const CombineMc<float32, P>& x) { return combineTable(Times{}, x, sizes<5, 6>{}); }
 Status ownMul_mc_64f_Packed(const CombineMc<float64, S>& x) { return combinePacked(Times{}, x); }
 Status ownMul_mc_64f_Strided(const CombineMc<float64, S>& x) { return ownMul_vac_64f_Strided(rowsAsVectors(x)); }
-Status ownMul_mc_64f_P(const CombineMc<float64, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mc_64f_P(const CombineMc<float64, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

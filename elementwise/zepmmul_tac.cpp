@@ -9,19 +9,19 @@ namespace zepm
 Status ownMul_tac_32f_Packed(const CombineTac<float32, S>& x) { return combinePacked(Times{}, x); }
 Status ownMul_tac_32f_Strided(const CombineTac<float32, S>& x)
 {
-    return combineStrided(Times{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Times{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownMul_tac_32f_L_Packed(const CombineTac<float32, L>& x) { return combinePacked(Times{}, x); }
 Status ownMul_tac_32f_L_Strided(const CombineTac<float32, L>& x) { return forEachObject(x, ownMul_tc_32f_Strided); }
-Status ownMul_tac_32f_P(const CombineTac<float32, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tac_32f_P(const CombineTac<float32, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_tac_64f_Packed(const CombineTac<float64, S>& x) { return combinePacked(Times{}, x); }
 Status ownMul_tac_64f_Strided(const CombineTac<float64, S>& x)
 {
-    return combineStrided(Times{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Times{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownMul_tac_64f_L_Packed(const CombineTac<float64, L>& x) { return combinePacked(Times{}, x); }
 Status ownMul_tac_64f_L_Strided(const CombineTac<float64, L>& x) { return forEachObject(x, ownMul_tc_64f_Strided); }
-Status ownMul_tac_64f_P(const CombineTac<float64, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tac_64f_P(const CombineTac<float64, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

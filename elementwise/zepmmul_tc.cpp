@@ -7,17 +7,11 @@ namespace zepm
 {
 
 Status ownMul_tc_32f_Packed(const CombineTc<float32, S>& x) { return combinePacked(Times{}, x); }
-Status ownMul_tc_32f_Strided(const CombineTc<float32, S>& x)
-{
-    return combineStrided(Times{}, x, orders<3, 4, 5, 6>{});
-}
-Status ownMul_tc_32f_P(const CombineTc<float32, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tc_32f_Strided(const CombineTc<float32, S>& x) { return combineStrided(Times{}, x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tc_32f_P(const CombineTc<float32, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_tc_64f_Packed(const CombineTc<float64, S>& x) { return combinePacked(Times{}, x); }
-Status ownMul_tc_64f_Strided(const CombineTc<float64, S>& x)
-{
-    return combineStrided(Times{}, x, orders<3, 4, 5, 6>{});
-}
-Status ownMul_tc_64f_P(const CombineTc<float64, P>& x) { return combineTable(Times{}, x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tc_64f_Strided(const CombineTc<float64, S>& x) { return combineStrided(Times{}, x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tc_64f_P(const CombineTc<float64, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

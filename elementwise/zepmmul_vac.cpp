@@ -10,12 +10,12 @@ Status ownMul_vac_32f_Packed(const ScaleVac<float32, S>& x) { return combinePack
 Status ownMul_vac_32f_Strided(const ScaleVac<float32, S>& x) { return combineStrided(Times{}, x); }
 Status ownMul_vac_32f_L_Packed(const ScaleVac<float32, L>& x) { return combinePacked(Times{}, x); }
 Status ownMul_vac_32f_L_Strided(const ScaleVac<float32, L>& x) { return combineStrided(Times{}, x); }
-Status ownMul_vac_32f_P(const ScaleVac<float32, P>& x) { return combineTable(Times{}, x, lengths<3, 4, 5, 6>{}); }
+Status ownMul_vac_32f_P(const ScaleVac<float32, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_vac_64f_Packed(const ScaleVac<float64, S>& x) { return combinePacked(Times{}, x); }
 Status ownMul_vac_64f_Strided(const ScaleVac<float64, S>& x) { return combineStrided(Times{}, x); }
 Status ownMul_vac_64f_L_Packed(const ScaleVac<float64, L>& x) { return combinePacked(Times{}, x); }
 Status ownMul_vac_64f_L_Strided(const ScaleVac<float64, L>& x) { return combineStrided(Times{}, x); }
-Status ownMul_vac_64f_P(const ScaleVac<float64, P>& x) { return combineTable(Times{}, x, lengths<3, 4, 5, 6>{}); }
+Status ownMul_vac_64f_P(const ScaleVac<float64, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

@@ -9,25 +9,25 @@ namespace zepm
 Status ownMul_vaca_32f_Packed(const CombineVaca<float32, S>& x) { return combinePacked(Times{}, x); }
 Status ownMul_vaca_32f_Strided(const CombineVaca<float32, S>& x)
 {
-    return combineStrided(Times{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Times{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownMul_vaca_32f_L_Packed(const CombineVaca<float32, L>& x) { return combinePacked(Times{}, x); }
 Status ownMul_vaca_32f_L_Strided(const CombineVaca<float32, L>& x)
 {
-    return combineStrided(Times{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Times{}, x, sizes<3, 4, 5, 6>{});
 }
-Status ownMul_vaca_32f_P(const CombineVaca<float32, P>& x) { return combineTable(Times{}, x, lengths<3, 4, 5, 6>{}); }
+Status ownMul_vaca_32f_P(const CombineVaca<float32, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_vaca_64f_Packed(const CombineVaca<float64, S>& x) { return combinePacked(Times{}, x); }
 Status ownMul_vaca_64f_Strided(const CombineVaca<float64, S>& x)
 {
-    return combineStrided(Times{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Times{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownMul_vaca_64f_L_Packed(const CombineVaca<float64, L>& x) { return combinePacked(Times{}, x); }
 Status ownMul_vaca_64f_L_Strided(const CombineVaca<float64, L>& x)
 {
-    return combineStrided(Times{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Times{}, x, sizes<3, 4, 5, 6>{});
 }
-Status ownMul_vaca_64f_P(const CombineVaca<float64, P>& x) { return combineTable(Times{}, x, lengths<3, 4, 5, 6>{}); }
+Status ownMul_vaca_64f_P(const CombineVaca<float64, P>& x) { return combineTable(Times{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

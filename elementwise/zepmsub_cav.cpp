@@ -9,23 +9,23 @@ namespace zepm
 Status ownSub_cav_32f_Packed(const CombineVca<float32, S>& x) { return combinePacked(MinusFrom{}, x); }
 Status ownSub_cav_32f_Strided(const CombineVca<float32, S>& x)
 {
-    return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(MinusFrom{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_cav_32f_L_Packed(const CombineVca<float32, L>& x) { return combinePacked(MinusFrom{}, x); }
 Status ownSub_cav_32f_L_Strided(const CombineVca<float32, L>& x)
 {
-    return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(MinusFrom{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_cav_32f_P(const CombineVca<float32, P>& x) { return combineTable(MinusFrom{}, x); }
 Status ownSub_cav_64f_Packed(const CombineVca<float64, S>& x) { return combinePacked(MinusFrom{}, x); }
 Status ownSub_cav_64f_Strided(const CombineVca<float64, S>& x)
 {
-    return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(MinusFrom{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_cav_64f_L_Packed(const CombineVca<float64, L>& x) { return combinePacked(MinusFrom{}, x); }
 Status ownSub_cav_64f_L_Strided(const CombineVca<float64, L>& x)
 {
-    return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(MinusFrom{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_cav_64f_P(const CombineVca<float64, P>& x) { return combineTable(MinusFrom{}, x); }
 

@@ -9,23 +9,23 @@ namespace zepm
 Status ownSub_cava_32f_Packed(const CombineVaca<float32, S>& x) { return combinePacked(MinusFrom{}, x); }
 Status ownSub_cava_32f_Strided(const CombineVaca<float32, S>& x)
 {
-    return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(MinusFrom{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_cava_32f_L_Packed(const CombineVaca<float32, L>& x) { return combinePacked(MinusFrom{}, x); }
 Status ownSub_cava_32f_L_Strided(const CombineVaca<float32, L>& x)
 {
-    return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(MinusFrom{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_cava_32f_P(const CombineVaca<float32, P>& x) { return combineTable(MinusFrom{}, x); }
 Status ownSub_cava_64f_Packed(const CombineVaca<float64, S>& x) { return combinePacked(MinusFrom{}, x); }
 Status ownSub_cava_64f_Strided(const CombineVaca<float64, S>& x)
 {
-    return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(MinusFrom{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_cava_64f_L_Packed(const CombineVaca<float64, L>& x) { return combinePacked(MinusFrom{}, x); }
 Status ownSub_cava_64f_L_Strided(const CombineVaca<float64, L>& x)
 {
-    return combineStrided(MinusFrom{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(MinusFrom{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_cava_64f_P(const CombineVaca<float64, P>& x) { return combineTable(MinusFrom{}, x); }
 

@@ -9,7 +9,7 @@ namespace zepm
 Status ownSub_mat_32f_Packed(const CombineMat<float32, S>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_mat_32f_Strided(const CombineMat<float32, S>& x)
 {
-    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_mat_32f_L_Packed(const CombineMat<float32, L>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_mat_32f_L_Strided(const CombineMat<float32, L>& x) { return forEachObject(x, ownSub_mt_32f_Strided); }
@@ -17,7 +17,7 @@ Status ownSub_mat_32f_P(const CombineMat<float32, P>& x) { return combineTable(M
 Status ownSub_mat_64f_Packed(const CombineMat<float64, S>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_mat_64f_Strided(const CombineMat<float64, S>& x)
 {
-    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_mat_64f_L_Packed(const CombineMat<float64, L>& x) { return forEachObject(x, ownSub_mt_64f_Packed); }
 Status ownSub_mat_64f_L_Strided(const CombineMat<float64, L>& x) { return forEachObject(x, ownSub_mt_64f_Strided); }

@@ -9,7 +9,7 @@ namespace zepm
 Status ownSub_mata_32f_Packed(const CombineMata<float32, S>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_mata_32f_Strided(const CombineMata<float32, S>& x)
 {
-    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_mata_32f_L_Packed(const CombineMata<float32, L>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_mata_32f_L_Strided(const CombineMata<float32, L>& x) { return combineStrided(Minus{}, x); }

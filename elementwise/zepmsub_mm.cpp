@@ -7,17 +7,11 @@ namespace zepm
 {
 
 Status ownSub_mm_32f_Packed(const CombineMm<float32, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mm_32f_Strided(const CombineMm<float32, S>& x)
-{
-    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
-}
-Status ownSub_mm_32f_P(const CombineMm<float32, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_mm_32f_Strided(const CombineMm<float32, S>& x) { return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{}); }
+Status ownSub_mm_32f_P(const CombineMm<float32, P>& x) { return combineTable(Minus{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownSub_mm_64f_Packed(const CombineMm<float64, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mm_64f_Strided(const CombineMm<float64, S>& x)
-{
-    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
-}
-Status ownSub_mm_64f_P(const CombineMm<float64, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_mm_64f_Strided(const CombineMm<float64, S>& x) { return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{}); }
+Status ownSub_mm_64f_P(const CombineMm<float64, P>& x) { return combineTable(Minus{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

@@ -7,17 +7,11 @@ namespace zepm
 {
 
 Status ownSub_mt_32f_Packed(const CombineMt<float32, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mt_32f_Strided(const CombineMt<float32, S>& x)
-{
-    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
-}
-Status ownSub_mt_32f_P(const CombineMt<float32, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_mt_32f_Strided(const CombineMt<float32, S>& x) { return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{}); }
+Status ownSub_mt_32f_P(const CombineMt<float32, P>& x) { return combineTable(Minus{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownSub_mt_64f_Packed(const CombineMt<float64, S>& x) { return combinePacked(Minus{}, x); }
-Status ownSub_mt_64f_Strided(const CombineMt<float64, S>& x)
-{
-    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
-}
-Status ownSub_mt_64f_P(const CombineMt<float64, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_mt_64f_Strided(const CombineMt<float64, S>& x) { return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{}); }
+Status ownSub_mt_64f_P(const CombineMt<float64, P>& x) { return combineTable(Minus{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

@@ -9,19 +9,19 @@ namespace zepm
 Status ownSub_tat_32f_Packed(const CombineTat<float32, S>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_tat_32f_Strided(const CombineTat<float32, S>& x)
 {
-    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_tat_32f_L_Packed(const CombineTat<float32, L>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_tat_32f_L_Strided(const CombineTat<float32, L>& x) { return forEachObject(x, ownSub_tt_32f_Strided); }
-Status ownSub_tat_32f_P(const CombineTat<float32, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_tat_32f_P(const CombineTat<float32, P>& x) { return combineTable(Minus{}, x, sizes<3, 4, 5, 6>{}); }
 Status ownSub_tat_64f_Packed(const CombineTat<float64, S>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_tat_64f_Strided(const CombineTat<float64, S>& x)
 {
-    return combineStrided(Minus{}, x, orders<3, 4, 5, 6>{});
+    return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_tat_64f_L_Packed(const CombineTat<float64, L>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_tat_64f_L_Strided(const CombineTat<float64, L>& x) { return forEachObject(x, ownSub_tt_64f_Strided); }
-Status ownSub_tat_64f_P(const CombineTat<float64, P>& x) { return combineTable(Minus{}, x, orders<3, 4, 5, 6>{}); }
+Status ownSub_tat_64f_P(const CombineTat<float64, P>& x) { return combineTable(Minus{}, x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

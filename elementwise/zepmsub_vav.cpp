@@ -10,7 +10,7 @@ namespace zepm
 Status ownSub_vav_32f_Packed(const CombineVav<float32, S>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_vav_32f_Strided(const CombineVav<float32, S>& x)
 {
-    return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_vav_32f_L_Packed(const CombineVav<float32, L>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_vav_32f_L_Strided(const CombineVav<float32, L>& x) { return forEachObject(x, ownSub_vv_32f_Strided); }
@@ -18,7 +18,7 @@ Status ownSub_vav_32f_P(const CombineVav<float32, P>& x) { return combineTable(M
 Status ownSub_vav_64f_Packed(const CombineVav<float64, S>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_vav_64f_Strided(const CombineVav<float64, S>& x)
 {
-    return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_vav_64f_L_Packed(const CombineVav<float64, L>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_vav_64f_L_Strided(const CombineVav<float64, L>& x) { return forEachObject(x, ownSub_vv_64f_Strided); }

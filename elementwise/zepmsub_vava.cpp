@@ -9,7 +9,7 @@ namespace zepm
 Status ownSub_vava_32f_Packed(const CombineVava<float32, S>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_vava_32f_Strided(const CombineVava<float32, S>& x)
 {
-    return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_vava_32f_L_Packed(const CombineVava<float32, L>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_vava_32f_L_Strided(const CombineVava<float32, L>& x) { return forEachObject(x, ownSub_vv_32f_Strided); }
@@ -17,7 +17,7 @@ Status ownSub_vava_32f_P(const CombineVava<float32, P>& x) { return combineTable
 Status ownSub_vava_64f_Packed(const CombineVava<float64, S>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_vava_64f_Strided(const CombineVava<float64, S>& x)
 {
-    return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_vava_64f_L_Packed(const CombineVava<float64, L>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_vava_64f_L_Strided(const CombineVava<float64, L>& x) { return forEachObject(x, ownSub_vv_64f_Strided); }

@@ -9,7 +9,7 @@ namespace zepm
 Status ownSub_vva_32f_Packed(const CombineVva<float32, S>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_vva_32f_Strided(const CombineVva<float32, S>& x)
 {
-    return combineStrided(Minus{}, x, lengths<3, 4, 5, 6>{});
+    return combineStrided(Minus{}, x, sizes<3, 4, 5, 6>{});
 }
 Status ownSub_vva_32f_L_Packed(const CombineVva<float32, L>& x) { return combinePacked(Minus{}, x); }
 Status ownSub_vva_32f_L_Strided(const CombineVva<float32, L>& x) { return combineStrided(Minus{}, x); }

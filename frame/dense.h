@@ -2,7 +2,7 @@
 // x[j].
 #pragma once
 
-#include "frame/groups.h"
+#include "frame/quads.h"
 
 namespace zepm::ZEPM_LEVEL
 {
@@ -16,9 +16,7 @@ struct Dense
         Lanes<N> r[Size];
         ZEPM_UNROLL
         for (int i = 0; i < Size; ++i)
-            r[i] = gathered<N>([&](int g) __attribute__((always_inline)) {
-                return loadVec<float32, 4>(p + (g * Size + i) * 16);
-            });
+            r[i] = gathered<N>([&](int g) ZEPM_INLINED { return loadVec<float32, 4>(p + (g * Size + i) * 16); });
         if constexpr (Size == 2)
         {
             x[0] = shuffled<N, 0, 2, 0, 2>(r[0], r[1]);
@@ -53,11 +51,10 @@ struct Dense
         }
         ZEPM_UNROLL
         for (int i = 0; i < Size; ++i)
-            scattered<N>(
-                r[i], [&](int g, Lanes<4> row) __attribute__((always_inline)) {
-                    char* const to = p + (g * Size + i) * 16;
-                    Streams ? streamPieces<float32, 4>(to, row) : storeVec<float32, 4>(to, row);
-                });
+            scattered<N>(r[i], [&](int g, Lanes<4> row) ZEPM_INLINED {
+                char* const to = p + (g * Size + i) * 16;
+                Streams ? streamPieces<float32, 4>(to, row) : storeVec<float32, 4>(to, row);
+            });
     }
 };
 

@@ -2,14 +2,49 @@
 // packed and the general kernel, and the limit above which the driver takes the call.
 //
 // An argument struct X gives operands(f), which calls f with each of its blocks in turn and says whether f was true of
-// all; sizesValid(); isPacked(); in arrays count and estimate(); where sizes must fit each other sizesMatch();
-// lightWork where a call may cost less than a fork.
+// all; sizesValid(), unless no step asks; in arrays count, estimate() and share(first, n); where sizes must fit each
+// other sizesMatch(); lightWork where a call may cost less than a fork. See parallel.h for canFail and scratch.
 #pragma once
 
 #include "frame/settings.h"
 
+#include <concepts>
+
 namespace zepm
 {
+
+struct AnyOperand
+{
+    ZEPM_INLINE bool operator()(const auto&) const { return true; }
+};
+
+template <class X>
+concept Call = requires(const X& x)
+{
+    {
+        x.operands(AnyOperand{})
+        } -> std::same_as<bool>;
+};
+template <class X>
+concept ArrayCall = Call<X> && requires(const X& x, int32 n)
+{
+    {
+        x.count + 0
+        } -> std::same_as<int32>;
+    {
+        x.estimate()
+        } -> std::same_as<int32>;
+    {
+        x.share(n, n)
+        } -> std::same_as<X>;
+};
+
+// The packed case: the elements of every operand that has strides are contiguous.
+template <Call X>
+ZEPM_INLINE bool isPacked(const X& x)
+{
+    return x.operands([](const auto& block) { return block.contiguous(); });
+}
 
 // ---- Validation steps -----------------------------------------------------------------------------------------------
 
@@ -139,16 +174,16 @@ ZEPM_INLINE bool isHeavy(const X& x)
 }
 
 // Arrays in S and L.
-template <class X, class Order, class Limits>
+template <ArrayCall X, class Order, class Limits>
 ZEPM_INLINE Status enter(const X& x, Order, Limits, KernelOf<X>* packed, KernelOf<X>* general, KernelOf<X>* driver)
 {
     if (const Status invalid = Order::check(x)) return invalid;
-    if (x.isPacked()) return isHeavy<Limits::packed>(x) ? driver(x) : packed(x);
+    if (isPacked(x)) return isHeavy<Limits::packed>(x) ? driver(x) : packed(x);
     return isHeavy<Limits::general>(x) ? driver(x) : general(x);
 }
 
 // Arrays in P, and families with one kernel.
-template <class X, class Order, class Limits>
+template <ArrayCall X, class Order, class Limits>
 ZEPM_INLINE Status enter(const X& x, Order, Limits, KernelOf<X>* kernel, KernelOf<X>* driver)
 {
     if (const Status invalid = Order::check(x)) return invalid;
@@ -156,18 +191,29 @@ ZEPM_INLINE Status enter(const X& x, Order, Limits, KernelOf<X>* kernel, KernelO
 }
 
 // Forms that are always serial.
-template <class X, class Order>
+template <Call X, class Order>
 ZEPM_INLINE Status enter(const X& x, Order, KernelOf<X>* packed, KernelOf<X>* general)
 {
     if (const Status invalid = Order::check(x)) return invalid;
-    return x.isPacked() ? packed(x) : general(x);
+    return isPacked(x) ? packed(x) : general(x);
 }
 
-template <class X, class Order>
+template <Call X, class Order>
 ZEPM_INLINE Status enter(const X& x, Order, KernelOf<X>* kernel)
 {
     if (const Status invalid = Order::check(x)) return invalid;
     return kernel(x);
+}
+
+// ---- Arrays whose kernel is a loop over the kernel of one object ----------------------------------------------------
+
+// x.object<One>(k) is the call on object k alone. The first object that fails ends the loop.
+template <class X, class One>
+ZEPM_INLINE Status forEachObject(const X& x, KernelOf<One>& kernel)
+{
+    for (int32 k = 0; k < x.count; ++k)
+        if (const Status status = kernel(x.template object<One>(k))) return status;
+    return stsOk;
 }
 
 } // namespace zepm

@@ -3,11 +3,14 @@
 // A source that profits from wider registers is compiled once for each instruction-set level, with ZEPM_LEVEL naming
 // the level's namespace; everything that vector code uses lies in that namespace or is always inlined, so that the
 // linker can never join code of two levels. Sources outside the levels see the baseline.
+//
+// What builds on this: machine.h the instructions that the vector types have no spelling for, pieces.h registers as
+// parts and their transposition, numbers.h arithmetic on one object or on one in each lane, groups.h objects of an
+// array in lanes, streams.h results beyond the caches.
 #pragma once
 
 #include "frame/operands.h"
 
-#include <immintrin.h>
 #include <utility>
 
 #ifndef ZEPM_LEVEL
@@ -34,6 +37,10 @@ inline constexpr int registerBytes = 16;
 // Elements in a register of this level.
 template <class T>
 inline constexpr int lanes = registerBytes / static_cast<int>(sizeof(T));
+
+// The size of an element in address arithmetic.
+template <class T>
+inline constexpr ptrdiff_t sz = sizeof(T);
 
 template <class T, int N>
 struct VectorOf
@@ -64,64 +71,46 @@ ZEPM_INLINE void storeVec(char* p, Vec<T, N> x)
     *reinterpret_cast<typename VectorOf<T, N>::unaligned*>(p) = x;
 }
 
+// visit.operator()<0>() to visit.operator()<N - 1>().
+template <int N, class Visit>
+ZEPM_INLINE void each(Visit visit)
+{
+    [&]<int... I>(std::integer_sequence<int, I...>) ZEPM_INLINED { (visit.template operator()<I>(), ...); }
+    (std::make_integer_sequence<int, N>{});
+}
+
+// x(n) for each lane n.
+template <class T, int N, class F>
+ZEPM_INLINE Vec<T, N> eachLane(F x)
+{
+    if constexpr (N == 1)
+        return x(0);
+    else
+        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) ZEPM_INLINED { return Vec<T, N>{x(Lane)...}; }
+    (std::make_integer_sequence<int, N>{});
+}
+
 template <class T, int N>
 ZEPM_INLINE Vec<T, N> broadcast(T x)
 {
-    if constexpr (N == 1)
-        return x;
-    else
-        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
-        {
-            return Vec<T, N>{(static_cast<void>(Lane), x)...};
-        }
-    (std::make_integer_sequence<int, N>{});
+    return eachLane<T, N>([x](int) ZEPM_INLINED { return x; });
 }
 
-// The vector whose lane n is lane Place(n) of x. Place is a function object with a constexpr call operator.
-template <class T, int N, class Place>
-ZEPM_INLINE Vec<T, N> permute(Vec<T, N> x, Place)
+// The vector of M lanes whose lane n is lane Place{}(n) of x and y one behind the other; a place of -1 leaves the lane
+// undefined. Place is a lambda without captures, or a function object with a constexpr call operator.
+template <class T, int N, int M = N, class Place>
+ZEPM_INLINE Vec<T, M> shuffle(Vec<T, N> x, Vec<T, N> y, Place)
 {
-    return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+    return [&]<int... Lane>(std::integer_sequence<int, Lane...>) ZEPM_INLINED
     {
-        return __builtin_shufflevector(x, x, Place{}(Lane)...);
+        return __builtin_shufflevector(x, y, Place{}(Lane)...);
     }
-    (std::make_integer_sequence<int, N>{});
+    (std::make_integer_sequence<int, M>{});
 }
-
-// A whole register to an address aligned to it, past the caches; fenceStreams() orders it before what comes after.
-template <class T>
-ZEPM_INLINE void streamVec(char* p, Vec<T, lanes<T>> x)
+template <class T, int N, int M = N, class Place>
+ZEPM_INLINE Vec<T, M> permute(Vec<T, N> x, Place place)
 {
-#if defined(__AVX512F__)
-    _mm512_stream_ps(reinterpret_cast<float*>(p), reinterpret_cast<__m512>(x));
-#elif defined(__AVX2__)
-    _mm256_stream_ps(reinterpret_cast<float*>(p), reinterpret_cast<__m256>(x));
-#else
-    _mm_stream_ps(reinterpret_cast<float*>(p), reinterpret_cast<__m128>(x));
-#endif
+    return shuffle<T, N, M>(x, x, place);
 }
-
-// Any vector to an address that is a multiple of 16, likewise.
-template <class T, int N>
-ZEPM_INLINE void streamPieces(char* p, Vec<T, N> x)
-{
-    constexpr int E = 16 / static_cast<int>(sizeof(T));
-    [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
-    {
-        auto piece = [&]<int First>() __attribute__((always_inline))
-        {
-            const Vec<T, E> y = __builtin_shufflevector(x, x, (First + Lane)...);
-            _mm_stream_ps(reinterpret_cast<float*>(p + First * sizeof(T)), reinterpret_cast<__m128>(y));
-        };
-        [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline))
-        {
-            (piece.template operator()<I * E>(), ...);
-        }
-        (std::make_integer_sequence<int, N / E>{});
-    }
-    (std::make_integer_sequence<int, E>{});
-}
-
-ZEPM_INLINE void fenceStreams() { _mm_sfence(); }
 
 } // namespace zepm::ZEPM_LEVEL

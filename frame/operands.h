@@ -15,6 +15,8 @@
 #include <type_traits>
 
 #define ZEPM_INLINE [[gnu::always_inline]] inline
+// Written behind the parameters of a lambda.
+#define ZEPM_INLINED __attribute__((always_inline))
 
 namespace zepm
 {
@@ -392,6 +394,43 @@ struct ConstantListBlock : Block<T>
         return ConstantListView<T>{pp, roiShift};
     }
 };
+
+// ---- Operands with a pointer of their own in every layout -----------------------------------------------------------
+
+// The elements of one object, side by side. Row numbers are int32, const or not.
+template <class T>
+struct DenseObject
+{
+    T* p;
+    ZEPM_INLINE auto get(int32 i) const { return load<T>(p + i); }
+    ZEPM_INLINE void set(int32 i, T x) const { store<T>(p + i, x); }
+};
+
+// The same number of elements for each object, without gaps.
+template <class T>
+struct DenseBlock : Block<T>
+{
+    T* p;
+
+    ZEPM_INLINE DenseBlock(T* base) : p(base) {}
+    ZEPM_INLINE bool isNull() const { return !p; }
+    ZEPM_INLINE DenseBlock from(int32 first, int32 each) const { return object(first, each).p; }
+    ZEPM_INLINE DenseObject<T> object(int32 k, int32 each) const { return {p + static_cast<ptrdiff_t>(k) * each}; }
+};
+
+// The caller's room for one object at a time, or a thread's part of the driver's.
+struct ScratchBlock : Block<char>
+{
+    char* p;
+
+    template <class T>
+    ZEPM_INLINE ScratchBlock(T* base) : p(reinterpret_cast<char*>(base))
+    {
+    }
+    ZEPM_INLINE bool isNull() const { return !p; }
+};
+
+// ---- The letters of the names ---------------------------------------------------------------------------------------
 
 // A t operand: the block of a matrix, seen through its transpose.
 template <class Matrix>

@@ -97,7 +97,7 @@ Status shareObjects(const X& x, KernelOf<X>* kernel)
 template <class X>
 Status shareObjects(const X& x, KernelOf<X>* packed, KernelOf<X>* general)
 {
-    return shareObjects(x, x.isPacked() ? packed : general);
+    return shareObjects(x, isPacked(x) ? packed : general);
 }
 
 } // namespace zepm

@@ -1,7 +1,7 @@
 // Dense results larger than the caches are stored past them, which saves reading the destination first.
 #pragma once
 
-#include "frame/lanes.h"
+#include "frame/pieces.h"
 #include "zepcore.h"
 
 namespace zepm::ZEPM_LEVEL
@@ -17,8 +17,7 @@ namespace zepm::ZEPM_LEVEL
 // The least bytes of a destination for which it is worth asking.
 inline constexpr ptrdiff_t leastStreamed = 1 << 22;
 
-// Whether a destination of so many bytes, with the sources read for each of its bytes, leaves little of the largest
-// cache or is beyond it.
+// Whether a destination of this size and its sources together exceed three quarters of the largest cache.
 ZEPM_INLINE bool isBeyondCaches(ptrdiff_t bytes, int sources)
 {
     return bytes >= leastStreamed && exceedCaches(bytes, 1 + sources);
@@ -43,8 +42,7 @@ ZEPM_INLINE void streamCopy(char* to, const char* from, ptrdiff_t bytes, Ahead a
     __builtin_memcpy(to + head + lines, from + head + lines, static_cast<size_t>(bytes - head - lines));
 }
 
-// The bytes that are computed at a time, and the most of one matrix for which that is worth it: larger ones take longer
-// than their memory.
+// Bytes computed into the buffer at a time. Matrices above streamedMatrix bytes are bound by arithmetic, not by memory.
 inline constexpr ptrdiff_t streamedChunk = 4096, streamedMatrix = 512;
 
 // How many chunks ahead the sources are fetched, besides the next one, which is on its way.
@@ -85,11 +83,10 @@ ZEPM_INLINE void streamObjects(char* d, ptrdiff_t size, ptrdiff_t count, StreamS
         const ptrdiff_t n = count - k < most ? count - k : most;
         compute(k, n, chunk);
         const ptrdiff_t ahead = k + n + chunksAhead * most, next = ahead < count ? ahead : 0;
-        streamCopy(
-            d + k * size, chunk, n * size, [&](ptrdiff_t i) __attribute__((always_inline)) {
-                if (a.step) __builtin_prefetch(a.p + next * a.step + i);
-                if (b.step) __builtin_prefetch(b.p + next * b.step + i);
-            });
+        streamCopy(d + k * size, chunk, n * size, [&](ptrdiff_t i) ZEPM_INLINED {
+            if (a.step) __builtin_prefetch(a.p + next * a.step + i);
+            if (b.step) __builtin_prefetch(b.p + next * b.step + i);
+        });
     }
     fenceStreams();
 }

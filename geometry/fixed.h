@@ -2,7 +2,7 @@
 // stored, so that a destination may be a source.
 #pragma once
 
-#include "frame/lanes.h"
+#include "frame/machine.h"
 #include "geometry/formulas.h"
 
 namespace zepm::ZEPM_LEVEL
@@ -45,7 +45,7 @@ ZEPM_INLINE void storeFixed(float32* p, Fixed<N> x)
 template <int N>
 ZEPM_INLINE Fixed<N> broadcastFixed(float32 x)
 {
-    return broadcast<float32, N == 2 ? 2 : 4>(x);
+    return broadcast < float32, N == 2 ? 2 : 4 > (x);
 }
 
 // The first N elements of a row.
@@ -91,7 +91,7 @@ ZEPM_INLINE Fixed<3> cross(Fixed<3> a, Fixed<3> b)
 // The 3 by 3 minors of the rows u, v, t: number i leaves column i out, expanded along u.
 ZEPM_INLINE Fixed<4> minors(Fixed<4> u, Fixed<4> v, Fixed<4> t)
 {
-    auto minor = [&](int p, int q) __attribute__((always_inline)) { return v[p] * t[q] - v[q] * t[p]; };
+    auto minor = [&](int p, int q) ZEPM_INLINED { return v[p] * t[q] - v[q] * t[p]; };
     const float32 m01 = minor(0, 1), m02 = minor(0, 2), m03 = minor(0, 3);
     const float32 m12 = minor(1, 2), m13 = minor(1, 3), m23 = minor(2, 3);
     return Fixed<4>{m23 * u[1] - m13 * u[2] + m12 * u[3], m23 * u[0] - m03 * u[2] + m02 * u[3],

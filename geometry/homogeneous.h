@@ -20,10 +20,6 @@ struct Mva3DH
     {
         return f(src1) && f(src2) && f(dst);
     }
-    ZEPM_INLINE bool isPacked() const
-    {
-        return operands([](const auto& block) { return block.contiguous(); });
-    }
     // Three elements read, three written for each point.
     ZEPM_INLINE int32 estimate() const { return (Work(6) * count).estimate(); }
     ZEPM_INLINE Mva3DH share(int32 first, int32 n) const { return {src1, src2.from(first), dst.from(first), n}; }

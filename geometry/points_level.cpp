@@ -60,8 +60,7 @@ template <class Formula, class From, class To>
     const Formula formula = given;
     bool ok = true;
     ptrdiff_t k = 0;
-    auto whole = [&]<int N>(std::integral_constant<int, N>) __attribute__((always_inline))
-    {
+    auto whole = [&]<int N>(std::integral_constant<int, N>) ZEPM_INLINED {
         for (; k + N <= count; k += N)
         {
             Lanes<N> p[Formula::in], d[Formula::out];

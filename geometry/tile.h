@@ -40,14 +40,13 @@ ZEPM_INLINE void storePoint(char* p, Lanes<4> x)
 template <int Size, int N>
 ZEPM_INLINE Lanes<N> loadPoints(const char* p, ptrdiff_t step)
 {
-    return gathered<N>([&](int g) __attribute__((always_inline)) { return loadPoint<Size>(p + g * step); });
+    return gathered<N>([&](int g) ZEPM_INLINED { return loadPoint<Size>(p + g * step); });
 }
 
 template <int Size, int N>
 ZEPM_INLINE void storePoints(char* p, ptrdiff_t step, Lanes<N> x)
 {
-    scattered<N>(
-        x, [&](int g, Lanes<4> point) __attribute__((always_inline)) { storePoint<Size>(p + g * step, point); });
+    scattered<N>(x, [&](int g, Lanes<4> point) ZEPM_INLINED { storePoint<Size>(p + g * step, point); });
 }
 
 // In records of 16 bytes: whole registers, less the last element of each record where it is not the point's. The masked

@@ -44,16 +44,18 @@ struct Products
         return src1.width >= 1 && src1.height >= 1 && src2.width >= 1 && src2.height >= 1;
     }
     ZEPM_INLINE bool sizesMatch() const { return inner() == (transposes2 ? src2.width : src2.height); }
-    ZEPM_INLINE bool isPacked() const
-    {
-        return operands([](const auto& block) { return block.contiguous(); });
-    }
     // The elements of all operands.
     ZEPM_INLINE int32 estimate() const
     {
         const Work of1 = Work(src1.width) * src1.height * (Src1::isArray ? count : 1);
         const Work of2 = Work(src2.width) * src2.height * (Src2::isArray ? count : 1);
         return (of1 + of2 + Work(rows()) * cols() * count).estimate();
+    }
+    // Object k alone.
+    template <class One>
+    ZEPM_INLINE One object(int32 k) const
+    {
+        return {{src1.object(k), src1.width, src1.height}, {src2.object(k), src2.width, src2.height}, dst.object(k)};
     }
     ZEPM_INLINE Products share(int32 first, int32 n) const
     {

@@ -1,6 +1,7 @@
 // The kernels of the products: d(i, j) = sum over k of a(i, k) * b(k, j) for each object, whatever the operands are.
 #pragma once
 
+#include "frame/sums.h"
 #include "product/forms.h"
 #include "product/products.h"
 #include "product/wide.h"
@@ -10,62 +11,24 @@ namespace zepm
 
 // ---- Orders ---------------------------------------------------------------------------------------------------------
 
-// The orders for which a kernel has a body of its own, in which sums start from the first product.
-template <int32... Order>
-struct orders
+// A kernel has bodies of its own for the orders in its line, in which sums start from the first product. Which of them
+// all sizes are, or 0.
+template <int32... Order, class X>
+ZEPM_INLINE int32 orderOf(const X& x, sizes<Order...> written)
 {
-    // The order of which all sizes are, or 0.
-    template <class X>
-    ZEPM_INLINE static int32 of(const X& x)
-    {
-        const int32 n = x.inner();
-        return x.rows() == n && x.cols() == n && (... || (n == Order)) ? n : 0;
-    }
-};
+    const int32 n = x.inner();
+    return x.rows() == n && x.cols() == n && written.have(n) ? n : 0;
+}
 
 // Orders 3 and 4 are told by the bitwise or of all sizes, so that sizes of 1, 2 and 3 whose or is 3 count as order 3.
 struct OrdersByOr
 {
-    template <class X>
-    ZEPM_INLINE static int32 of(const X& x)
-    {
-        const int32 sizes = x.src1.width | x.src1.height | x.src2.width | x.src2.height;
-        return sizes == 3 || sizes == 4 ? sizes : orders<5, 6>::of(x);
-    }
 };
-
-// ---- Sums -----------------------------------------------------------------------------------------------------------
-
-template <int32 Order, class A, class B>
-ZEPM_INLINE auto sumFromFirst(const A& a, const B& b, int32 i, int32 j)
+template <class X>
+ZEPM_INLINE int32 orderOf(const X& x, OrdersByOr)
 {
-    auto sum = a.get(i, 0) * b.get(0, j);
-    ZEPM_UNROLL
-    for (int32 k = 1; k < Order; ++k) sum += a.get(i, k) * b.get(k, j);
-    return sum;
-}
-
-template <class A, class B>
-ZEPM_INLINE auto sumFromZero(const A& a, const B& b, int32 i, int32 j, int32 inner)
-{
-    decltype(a.get(i, 0)) sum = 0;
-    for (int32 k = 0; k < inner; ++k) sum += a.get(i, k) * b.get(k, j);
-    return sum;
-}
-
-// The products of even and of odd k apart; a last one without a partner comes after both.
-template <class A, class B>
-ZEPM_INLINE auto sumInPairs(const A& a, const B& b, int32 i, int32 j, int32 inner)
-{
-    decltype(a.get(i, 0)) even = 0, odd = 0;
-    int32 k = 0;
-    for (; k + 2 <= inner; k += 2)
-    {
-        even += a.get(i, k) * b.get(k, j);
-        odd += a.get(i, k + 1) * b.get(k + 1, j);
-    }
-    const auto sum = even + odd;
-    return k < inner ? sum + a.get(i, k) * b.get(k, j) : sum;
+    const int32 bits = x.src1.width | x.src1.height | x.src2.width | x.src2.height;
+    return bits == 3 || bits == 4 ? bits : orderOf(x, sizes<5, 6>{});
 }
 
 // ---- Objects --------------------------------------------------------------------------------------------------------
@@ -74,7 +37,10 @@ template <int32 Order, class A, class B, class D>
 ZEPM_INLINE void multiplyOrder(const A& a, const B& b, const D& d)
 {
     for (int32 i = 0; i < Order; ++i)
-        for (int32 j = 0; j < Order; ++j) d.set(i, j, sumFromFirst<Order>(a, b, i, j));
+        for (int32 j = 0; j < Order; ++j)
+            d.set(i, j, sumFromFirst(FixedOrder<Order>{}, 0, Order, [&](int32 k) ZEPM_INLINED {
+                      return a.get(i, k) * b.get(k, j);
+                  }));
 }
 
 // The rows from firstInPairs on sum in pairs.
@@ -84,7 +50,10 @@ ZEPM_INLINE void multiplyObject(const A& a, const B& b, const D& d, int32 rows, 
 {
     for (int32 i = 0; i < rows; ++i)
         for (int32 j = 0; j < cols; ++j)
-            d.set(i, j, i < firstInPairs ? sumFromZero(a, b, i, j, inner) : sumInPairs(a, b, i, j, inner));
+        {
+            const auto term = [&](int32 k) ZEPM_INLINED { return a.get(i, k) * b.get(k, j); };
+            d.set(i, j, i < firstInPairs ? sumFromZero(inner, 0, inner, term) : sumInPairs(0, inner, term));
+        }
 }
 
 // The test on the order comes once a call, outside the loop over objects.
@@ -94,26 +63,20 @@ ZEPM_INLINE void multiplyViews(const X& x, int32 order, int32 firstInPairs)
     const auto a = x.src1.template view<Contiguous>(order ? order : x.src1.width);
     const auto b = x.src2.template view<Contiguous>(order ? order : x.src2.width);
     const auto d = x.dst.template view<Contiguous>(order ? order : x.cols());
-    auto forEach = [&](auto multiply) __attribute__((always_inline))
-    {
+    auto forEach = [&](auto multiply) ZEPM_INLINED {
         for (int32 k = 0; k < x.count; ++k) multiply(a.object(k), b.object(k), d.object(k));
     };
-    auto ofOrder = [&]<int32 Order>() __attribute__((always_inline))
-    {
-        forEach([](const auto& objectA, const auto& objectB, const auto& objectD)
-                    __attribute__((always_inline)) { multiplyOrder<Order>(objectA, objectB, objectD); });
-    };
-    switch (order)
-    {
-    case 3: return ofOrder.template operator()<3>();
-    case 4: return ofOrder.template operator()<4>();
-    case 5: return ofOrder.template operator()<5>();
-    case 6: return ofOrder.template operator()<6>();
-    default:
-        return forEach([&](const auto& objectA, const auto& objectB, const auto& objectD) {
-            multiplyObject(objectA, objectB, objectD, x.rows(), x.cols(), x.inner(), firstInPairs);
+    forSize(
+        order, sizes<3, 4, 5, 6>{},
+        [&]<int32 Order>() ZEPM_INLINED {
+            forEach([](const auto& objectA, const auto& objectB, const auto& objectD)
+                        ZEPM_INLINED { multiplyOrder<Order>(objectA, objectB, objectD); });
+        },
+        [&]() ZEPM_INLINED {
+            forEach([&](const auto& objectA, const auto& objectB, const auto& objectD) {
+                multiplyObject(objectA, objectB, objectD, x.rows(), x.cols(), x.inner(), firstInPairs);
+            });
         });
-    }
 }
 
 // ---- Kernels --------------------------------------------------------------------------------------------------------
@@ -145,7 +108,7 @@ template <class T>
 inline constexpr bool isList<ListBlock<T, 2>> = true;
 
 template <class X>
-[[gnu::noinline]] void multiplyWide(const X& x, int32 order)
+[[gnu::noinline]] Status multiplyWide(const X& x, int32 order)
 {
     using Dst = decltype(x.dst);
     ZEPM_AT_LEVEL(multiplyMatrices<typename Dst::Element, X::transposes1, X::transposes2>)
@@ -164,29 +127,24 @@ ZEPM_INLINE Status multiplyPair(const X& x)
 // Contiguous elements. One pair of an order goes without the choice of a level, which would cost as much as the
 // product.
 template <class X, class Orders>
-ZEPM_INLINE Status multiplyPacked(const X& x, Orders)
+ZEPM_INLINE Status multiplyPacked(const X& x, Orders written)
 {
-    const int32 order = Orders::of(x);
+    const int32 order = orderOf(x, written);
     if constexpr (!decltype(x.dst)::isArray)
     {
-        switch (order)
-        {
-        case 3: return multiplyPair<3>(x);
-        case 4: return multiplyPair<4>(x);
-        case 5: return multiplyPair<5>(x);
-        case 6: return multiplyPair<6>(x);
-        default: break;
-        }
+        return forSize(
+            order, sizes<3, 4, 5, 6>{}, [&]<int32 Order>() ZEPM_INLINED { return multiplyPair<Order>(x); },
+            [&]() ZEPM_INLINED { return multiplyWide(x, order); });
     }
-    multiplyWide(x, order);
-    return stsOk;
+    else
+        return multiplyWide(x, order);
 }
 
 // Elements at any distance, or behind tables.
 template <class X, class Orders>
-ZEPM_INLINE Status multiplyStrided(const X& x, Orders)
+ZEPM_INLINE Status multiplyStrided(const X& x, Orders written)
 {
-    multiplyViews<false>(x, Orders::of(x), x.rows());
+    multiplyViews<false>(x, orderOf(x, written), x.rows());
     return stsOk;
 }
 
@@ -194,17 +152,6 @@ template <class X, class Orders>
 ZEPM_INLINE Status multiplyTable(const X& x, Orders written)
 {
     return multiplyStrided(x, written);
-}
-
-// The arrays of L whose kernel is a loop over the kernel of one pair.
-template <class X, class One>
-ZEPM_INLINE Status forEachObject(const X& x, Status (*kernel)(const One&))
-{
-    for (int32 k = 0; k < x.count; ++k)
-        kernel({{x.src1.object(k), x.src1.width, x.src1.height},
-                {x.src2.object(k), x.src2.width, x.src2.height},
-                x.dst.object(k)});
-    return stsOk;
 }
 
 } // namespace zepm

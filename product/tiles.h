@@ -46,8 +46,7 @@ struct ColumnsGathered
 
     ZEPM_INLINE ColumnsGathered(const char* p, ptrdiff_t stride1, int32 inner)
     {
-        each<Vectors>([&]<int V>()
-                          __attribute__((always_inline)) { gather(x[V], p + V * N * stride1, stride1, inner); });
+        each<Vectors>([&]<int V>() ZEPM_INLINED { gather(x[V], p + V * N * stride1, stride1, inner); });
     }
     template <int V>
     ZEPM_INLINE Vec<T, N> get(ptrdiff_t k) const
@@ -59,21 +58,18 @@ private:
     ZEPM_INLINE static void gather(T (&to)[mostGathered][N], const char* p, ptrdiff_t stride1, int32 inner)
     {
         int32 k = 0;
-        if constexpr (N % laneElements<T> == 0 && Count == N)
+        if constexpr (N % pieceLength<T> == 0 && Count == N)
         {
-            constexpr int E = laneElements<T>;
+            constexpr int E = pieceLength<T>;
             for (; k + E <= inner; k += E)
             {
                 Vec<T, N> rows[E];
-                each<E>([&]<int S>() __attribute__((always_inline)) {
-                    rows[S] = joinBlocks<T, E, N / E>([&]<int G>() __attribute__((always_inline)) {
-                        return loadVec<T, E>(p + (G * E + S) * stride1 + k * sz<T>);
-                    });
+                each<E>([&]<int S>() ZEPM_INLINED {
+                    rows[S] = joinBlocks<T, E, N / E>(
+                        [&]<int G>() ZEPM_INLINED { return loadVec<T, E>(p + (G * E + S) * stride1 + k * sz<T>); });
                 });
-                transposeLanes<N>(rows);
-                each<E>([&]<int S>() __attribute__((always_inline)) {
-                    storeVec<T, N>(reinterpret_cast<char*>(to[k + S]), rows[S]);
-                });
+                transposePieces<T, N>(rows);
+                each<E>([&]<int S>() ZEPM_INLINED { storeVec<T, N>(reinterpret_cast<char*>(to[k + S]), rows[S]); });
             }
         }
         for (; k < inner; ++k)
@@ -98,22 +94,21 @@ template <class T, bool Transposes1, int N, int Count, int Vectors, int Height, 
 ZEPM_INLINE void tile(const Tiles x, const B& b, ptrdiff_t i)
 {
     const char* a[Height];
-    each<Height>([&]<int I>() __attribute__((always_inline)) {
-        a[I] = Transposes1 ? x.a + (i + I) * sz<T> : x.a + (i + I) * x.stride1A;
-    });
+    each<Height>([&]<int I>()
+                     ZEPM_INLINED { a[I] = Transposes1 ? x.a + (i + I) * sz<T> : x.a + (i + I) * x.stride1A; });
     const ptrdiff_t step = Transposes1 ? x.stride1A : sz<T>;
     Vec<T, N> sums[Height][Vectors] = {};
     for (ptrdiff_t k = 0; k < x.inner; ++k)
     {
         Vec<T, N> row[Vectors];
-        each<Vectors>([&]<int V>() __attribute__((always_inline)) { row[V] = b.template get<V>(k); });
-        each<Height>([&]<int I>() __attribute__((always_inline)) {
+        each<Vectors>([&]<int V>() ZEPM_INLINED { row[V] = b.template get<V>(k); });
+        each<Height>([&]<int I>() ZEPM_INLINED {
             const Vec<T, N> factor = broadcast<T, N>(load<T>(a[I] + k * step));
-            each<Vectors>([&]<int V>() __attribute__((always_inline)) { sums[I][V] += factor * row[V]; });
+            each<Vectors>([&]<int V>() ZEPM_INLINED { sums[I][V] += factor * row[V]; });
         });
     }
-    each<Height>([&]<int I>() __attribute__((always_inline)) {
-        each<Vectors>([&]<int V>() __attribute__((always_inline)) {
+    each<Height>([&]<int I>() ZEPM_INLINED {
+        each<Vectors>([&]<int V>() ZEPM_INLINED {
             storeFirst<T, N, Count>(x.d + (i + I) * x.stride1D + V * N * sz<T>, sums[I][V]);
         });
     });
@@ -123,8 +118,7 @@ ZEPM_INLINE void tile(const Tiles x, const B& b, ptrdiff_t i)
 template <class T, bool Transposes1, int N, int Count, int V, class B>
 ZEPM_INLINE void rowInPairs(const Tiles x, const B& b, ptrdiff_t i)
 {
-    auto product = [&](ptrdiff_t k) __attribute__((always_inline))
-    {
+    auto product = [&](ptrdiff_t k) ZEPM_INLINED {
         const char* const a = Transposes1 ? x.a + k * x.stride1A + i * sz<T> : x.a + i * x.stride1A + k * sz<T>;
         return broadcast<T, N>(load<T>(a)) * b.template get<V>(k);
     };
@@ -147,8 +141,7 @@ ZEPM_INLINE void tiles(const Tiles x, const B& b)
     for (; i + 4 <= x.firstInPairs; i += 4) tile<T, Transposes1, N, Count, Vectors, 4>(x, b, i);
     for (; i < x.firstInPairs; ++i) tile<T, Transposes1, N, Count, Vectors, 1>(x, b, i);
     for (; i < x.rows; ++i)
-        each<Vectors>([&]<int V>()
-                          __attribute__((always_inline)) { rowInPairs<T, Transposes1, N, Count, V>(x, b, i); });
+        each<Vectors>([&]<int V>() ZEPM_INLINED { rowInPairs<T, Transposes1, N, Count, V>(x, b, i); });
 }
 
 template <class T, bool Transposes1, bool Transposes2, int N, int Count, int Vectors = 1>
@@ -167,9 +160,8 @@ template <class T, bool Transposes1, bool Transposes2, int N, int Count, int Vec
 template <class T, bool Transposes1, bool Transposes2>
 ZEPM_INLINE void multiplyObject(Tiles x, const char* b, ptrdiff_t stride1, ptrdiff_t cols)
 {
-    constexpr int W = lanes<T>, E = laneElements<T>;
-    auto take = [&]<int N, int Count, int Vectors>() __attribute__((always_inline))
-    {
+    constexpr int W = lanes<T>, E = pieceLength<T>;
+    auto take = [&]<int N, int Count, int Vectors>() ZEPM_INLINED {
         constexpr ptrdiff_t taken = Count * Vectors;
         columnsFrom<T, Transposes1, Transposes2, N, Count, Vectors>(x, b, stride1);
         x.d += taken * sz<T>;

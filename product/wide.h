@@ -13,7 +13,7 @@
 // stored likewise, and the next row then overwrites what reached into it.
 #pragma once
 
-#include "frame/lanes.h"
+#include "frame/pieces.h"
 #include "product/products.h"
 #include "product/rows3.h"
 
@@ -21,20 +21,6 @@ namespace zepm::ZEPM_LEVEL
 {
 
 // ---- Pieces of registers --------------------------------------------------------------------------------------------
-
-template <class T>
-inline constexpr ptrdiff_t sz = sizeof(T);
-
-// visit.operator()<0>() to visit.operator()<N - 1>().
-template <int N, class Visit>
-ZEPM_INLINE void each(Visit visit)
-{
-    [&]<int... I>(std::integer_sequence<int, I...>) __attribute__((always_inline))
-    {
-        (visit.template operator()<I>(), ...);
-    }
-    (std::make_integer_sequence<int, N>{});
-}
 
 constexpr int powerOfTwoFrom(int n)
 {
@@ -45,81 +31,6 @@ constexpr int powerOfTwoFrom(int n)
 
 constexpr int greatestCommonDivisor(int m, int n) { return n == 0 ? m : greatestCommonDivisor(n, m % n); }
 
-// The lanes of lo, then those of hi.
-template <class T, int N>
-ZEPM_INLINE Vec<T, 2 * N> join(Vec<T, N> lo, Vec<T, N> hi)
-{
-    if constexpr (N == 1)
-        return Vec<T, 2>{lo, hi};
-    else
-        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
-        {
-            return __builtin_shufflevector(lo, hi, Lane...);
-        }
-    (std::make_integer_sequence<int, 2 * N>{});
-}
-
-// Half of a vector: Half 0 is the lower lanes.
-template <class T, int N, int Half>
-ZEPM_INLINE Vec<T, N / 2> half(Vec<T, N> x)
-{
-    if constexpr (N == 2)
-        return x[Half];
-    else
-        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
-        {
-            return __builtin_shufflevector(x, x, (Half * (N / 2) + Lane)...);
-        }
-    (std::make_integer_sequence<int, N / 2>{});
-}
-
-// The first Count of N elements; the other lanes are zero.
-template <class T, int N, int Count>
-ZEPM_INLINE Vec<T, N> loadFirst(const char* p)
-{
-    static_assert(Count <= N);
-    if constexpr (Count == N)
-        return loadVec<T, N>(p);
-    else if constexpr (Count == 0)
-        return Vec<T, N>{};
-    else if constexpr (Count == 1)
-        return Vec<T, N>{load<T>(p)};
-    else if constexpr (N == 4 && sizeof(T) == 4)
-    {
-        // Two floats are one element of 8 bytes: vectors of 8 bytes are not in the registers' repertoire.
-        const auto two = reinterpret_cast<Vec<float32, 4>>(Vec<float64, 2>{load<float64>(p)});
-        if constexpr (Count == 2)
-            return two;
-        else
-            return __builtin_shufflevector(two, Vec<float32, 4>{load<T>(p + 2 * sz<T>)}, 0, 1, 4, 5);
-    }
-    else if constexpr (Count <= N / 2)
-        return join<T, N / 2>(loadFirst<T, N / 2, Count>(p), Vec<T, N / 2>{});
-    else
-        return join<T, N / 2>(loadVec<T, N / 2>(p), loadFirst<T, N / 2, Count - N / 2>(p + N / 2 * sz<T>));
-}
-
-template <class T, int N, int Count>
-ZEPM_INLINE void storeFirst(char* p, Vec<T, N> x)
-{
-    if constexpr (Count == N)
-        storeVec<T, N>(p, x);
-    else if constexpr (Count == 1)
-        store<T>(p, x[0]);
-    else if constexpr (N == 4 && sizeof(T) == 4)
-    {
-        store<float64>(p, reinterpret_cast<Vec<float64, 2>>(x)[0]);
-        if constexpr (Count == 3) store<T>(p + 2 * sz<T>, x[2]);
-    }
-    else if constexpr (Count <= N / 2)
-        storeFirst<T, N / 2, Count>(p, half<T, N, 0>(x));
-    else
-    {
-        storeVec<T, N / 2>(p, half<T, N, 0>(x));
-        storeFirst<T, N / 2, Count - N / 2>(p + N / 2 * sz<T>, half<T, N, 1>(x));
-    }
-}
-
 // A vector of blocks of N lanes each, block(r) for r from First on.
 template <class T, int N, int Blocks, int First = 0, class Block>
 ZEPM_INLINE Vec<T, N * Blocks> joinBlocks(Block block)
@@ -129,56 +40,6 @@ ZEPM_INLINE Vec<T, N * Blocks> joinBlocks(Block block)
     else
         return join<T, N * Blocks / 2>(joinBlocks<T, N, Blocks / 2, First>(block),
                                        joinBlocks<T, N, Blocks / 2, First + Blocks / 2>(block));
-}
-
-// One vector of N lanes, Blocks times.
-template <class T, int N, int Blocks>
-ZEPM_INLINE Vec<T, N * Blocks> repeat(Vec<T, N> x)
-{
-    if constexpr (Blocks == 1)
-        return x;
-    else
-        return repeat<T, 2 * N, Blocks / 2>(join<T, N>(x, x));
-}
-
-// Elements of 16 bytes: shuffles within them are single instructions at every level.
-template <class T>
-inline constexpr int laneElements = 16 / static_cast<int>(sizeof(T));
-
-// In each 16 bytes: element e of all of rows, in their order, as vector e.
-template <int N>
-ZEPM_INLINE void transposeLanes(Vec<float64, N> (&rows)[2])
-{
-    auto shuffled = [&]<int Odd>() __attribute__((always_inline))
-    {
-        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
-        {
-            return __builtin_shufflevector(rows[0], rows[1], (Lane / 2 * 2 + Odd + Lane % 2 * N)...);
-        }
-        (std::make_integer_sequence<int, N>{});
-    };
-    const auto even = shuffled.template operator()<0>(), odd = shuffled.template operator()<1>();
-    rows[0] = even;
-    rows[1] = odd;
-}
-template <int N>
-ZEPM_INLINE void transposeLanes(Vec<float32, N> (&rows)[4])
-{
-    // The lower or the upper two elements of x and y in turn: x0 y0 x1 y1.
-    auto zip = [&]<int Upper>(Vec<float32, N> x, Vec<float32, N> y) __attribute__((always_inline))
-    {
-        return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
-        {
-            return __builtin_shufflevector(x, y, (Lane / 4 * 4 + Upper * 2 + Lane % 4 / 2 + Lane % 2 * N)...);
-        }
-        (std::make_integer_sequence<int, N>{});
-    };
-    const auto t0 = zip.template operator()<0>(rows[0], rows[2]), t1 = zip.template operator()<0>(rows[1], rows[3]);
-    const auto t2 = zip.template operator()<1>(rows[0], rows[2]), t3 = zip.template operator()<1>(rows[1], rows[3]);
-    rows[0] = zip.template operator()<0>(t0, t1);
-    rows[1] = zip.template operator()<1>(t0, t1);
-    rows[2] = zip.template operator()<0>(t2, t3);
-    rows[3] = zip.template operator()<1>(t2, t3);
 }
 
 // ---- Where the objects lie ------------------------------------------------------------------------------------------
@@ -207,7 +68,7 @@ struct Rows
     {
 #if defined(__AVX__)
         // One load, where the compiler would spend a shuffle.
-        if constexpr (Times == 2 && N == laneElements<T> && (Count == N || holds<N, I, J>))
+        if constexpr (Times == 2 && N == pieceLength<T> && (Count == N || holds<N, I, J>))
             return reinterpret_cast<Vec<T, N * Times>>(_mm256_broadcast_ps(reinterpret_cast<const __m128*>(at(I, J))));
         else
 #endif
@@ -291,7 +152,7 @@ struct Factors
         template <int I, class Object>
         ZEPM_INLINE static V rowOfAll(const Object (&x)[objects])
         {
-            return joinBlocks<T, blockLanes * rowsTogether, objects>([&]<int R>() __attribute__((always_inline)) {
+            return joinBlocks<T, blockLanes * rowsTogether, objects>([&]<int R>() ZEPM_INLINED {
                 return x[R].template getRepeated<blockLanes, Columns, I, First, rowsTogether>();
             });
         }
@@ -304,13 +165,13 @@ struct Factors
             ZEPM_INLINE explicit FirstFactor(const Object (&a)[objects]) : object(a)
             {
                 if constexpr (permutes && Transposes1)
-                    each<Order>([&]<int I>() __attribute__((always_inline)) { rows[I] = rowOfAll<I>(a); });
+                    each<Order>([&]<int I>() ZEPM_INLINED { rows[I] = rowOfAll<I>(a); });
                 else if constexpr (permutes)
-                    each<registers>([&]<int Q>() __attribute__((always_inline)) {
+                    each<registers>([&]<int Q>() ZEPM_INLINED {
                         if constexpr (isWhole)
                             rows[Q] = loadVec<T, N>(a[0].at(rowOf(Q, 0), 0));
                         else
-                            rows[Q] = joinBlocks<T, blockLanes, blocks>([&]<int R>() __attribute__((always_inline)) {
+                            rows[Q] = joinBlocks<T, blockLanes, blocks>([&]<int R>() ZEPM_INLINED {
                                 return a[objectOf(R)].template get<blockLanes, Columns, rowOf(Q, R), 0>();
                             });
                     });
@@ -325,7 +186,7 @@ struct Factors
                 else if constexpr (permutes)
                     return permute<T, N>(rows[Q], [](int lane) { return lane / blockLanes * blockLanes + K; });
                 else
-                    return joinBlocks<T, blockLanes, blocks>([&]<int R>() __attribute__((always_inline)) {
+                    return joinBlocks<T, blockLanes, blocks>([&]<int R>() ZEPM_INLINED {
                         constexpr int i = rowOf(Q, R);
                         return broadcast<T, blockLanes>(
                             load<T>(Transposes1 ? object[objectOf(R)].at(K, i) : object[objectOf(R)].at(i, K)));
@@ -339,12 +200,12 @@ struct Factors
 
             ZEPM_INLINE explicit SecondFactor(const Object (&b)[objects])
             {
-                constexpr int E = laneElements<T>;
+                constexpr int E = pieceLength<T>;
                 if constexpr (!Transposes2)
-                    each<Order>([&]<int K>() __attribute__((always_inline)) { rows[K] = rowOfAll<K>(b); });
+                    each<Order>([&]<int K>() ZEPM_INLINED { rows[K] = rowOfAll<K>(b); });
                 else if constexpr (blockLanes < E)
-                    each<Order>([&]<int K>() __attribute__((always_inline)) {
-                        rows[K] = [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+                    each<Order>([&]<int K>() ZEPM_INLINED {
+                        rows[K] = [&]<int... Lane>(std::integer_sequence<int, Lane...>) ZEPM_INLINED
                         {
                             return joinLanes({load<T>(b[objectOf(Lane / blockLanes)].at(
                                 First + (Lane % blockLanes < Columns ? Lane % blockLanes : 0), K))...});
@@ -353,16 +214,16 @@ struct Factors
                     });
                 else
                     // Each 16 bytes hold E elements of one stored row, then one element of E stored rows.
-                    each<(Order + E - 1) / E>([&]<int Group>() __attribute__((always_inline)) {
+                    each<(Order + E - 1) / E>([&]<int Group>() ZEPM_INLINED {
                         V stored[E];
-                        each<E>([&]<int S>() __attribute__((always_inline)) {
+                        each<E>([&]<int S>() ZEPM_INLINED {
                             stored[S] = joinBlocks<T, blockLanes * rowsTogether, objects>([&]<int R>() __attribute__((
                                 always_inline)) {
                                 return repeat<T, blockLanes, rowsTogether>(storedColumns<Group * E, S>(b[R]));
                             });
                         });
-                        transposeLanes<N>(stored);
-                        each<E>([&]<int S>() __attribute__((always_inline)) {
+                        transposePieces<T, N>(stored);
+                        each<E>([&]<int S>() ZEPM_INLINED {
                             if constexpr (Group * E + S < Order) rows[Group * E + S] = stored[S];
                         });
                     });
@@ -371,7 +232,7 @@ struct Factors
         private:
             ZEPM_INLINE static V joinLanes(const T (&x)[N])
             {
-                return [&]<int... Lane>(std::integer_sequence<int, Lane...>) __attribute__((always_inline))
+                return [&]<int... Lane>(std::integer_sequence<int, Lane...>) ZEPM_INLINED
                 {
                     if constexpr (N == 1)
                         return x[0];
@@ -384,8 +245,8 @@ struct Factors
             template <int K, int S>
             ZEPM_INLINE static Vec<T, blockLanes> storedColumns(const Object& b)
             {
-                constexpr int E = laneElements<T>;
-                return joinBlocks<T, E, blockLanes / E>([&]<int G>() __attribute__((always_inline)) {
+                constexpr int E = pieceLength<T>;
+                return joinBlocks<T, E, blockLanes / E>([&]<int G>() ZEPM_INLINED {
                     constexpr int j = First + G * E + S;
                     if constexpr (j < Order)
                         return b.template get<E, (Order - K < E ? Order - K : E), j, K>();
@@ -397,12 +258,10 @@ struct Factors
 
         ZEPM_INLINE static void multiply(const FirstFactor& a, const SecondFactor& b, const Object (&d)[objects])
         {
-            each<registers>([&]<int Q>() __attribute__((always_inline)) {
+            each<registers>([&]<int Q>() ZEPM_INLINED {
                 V sum = a.template get<Q, 0>() * b.rows[0];
                 if constexpr (fromZero) sum = V{} + sum; // products of -0 give +0
-                each<Order - 1>([&]<int K>() __attribute__((always_inline)) {
-                    sum += a.template get<Q, K + 1>() * b.rows[K + 1];
-                });
+                each<Order - 1>([&]<int K>() ZEPM_INLINED { sum += a.template get<Q, K + 1>() * b.rows[K + 1]; });
                 char* const to = const_cast<char*>(d[0].at(rowOf(Q, 0), 0));
                 if constexpr (isWhole && Streams)
                     streamPieces<T, N>(to, sum);
@@ -476,9 +335,8 @@ struct Factors
     {
         using All = Panels<Width>;
         constexpr int G = All::objects;
-        auto gathered = [&](const Found& x, const MatrixOperand& operand) __attribute__((always_inline))
-        {
-            return [&]<int... R>(std::integer_sequence<int, R...>) __attribute__((always_inline))
+        auto gathered = [&](const Found& x, const MatrixOperand& operand) ZEPM_INLINED {
+            return [&]<int... R>(std::integer_sequence<int, R...>) ZEPM_INLINED
             {
                 return Group<G>{{{x.object(R), operand.stride1}...}};
             }
@@ -491,16 +349,14 @@ struct Factors
             const FetchedAhead aheadA(a.p, call.a.isFixed ? 1 : count * call.a.step);
             const FetchedAhead aheadB(b.p, call.b.isFixed ? 1 : count * call.b.step);
             // Fetches as many bytes ahead in each source as the next step reads.
-            auto fetch = [&](ptrdiff_t bytes) __attribute__((always_inline))
-            {
+            auto fetch = [&](ptrdiff_t bytes) ZEPM_INLINED {
                 for (ptrdiff_t line = 0; line < bytes; line += 64)
                 {
                     if constexpr (fixed != Fixed::First) aheadA.from(a.p + line);
                     if constexpr (fixed != Fixed::Second) aheadB.from(b.p + line);
                 }
             };
-            auto multiplyGroup = [&](const Group<G>& objectD) __attribute__((always_inline))
-            {
+            auto multiplyGroup = [&](const Group<G>& objectD) ZEPM_INLINED {
                 const auto objectA = fixed == Fixed::First ? fixedA : gathered(a, call.a);
                 const auto objectB = fixed == Fixed::Second ? fixedB : gathered(b, call.b);
                 panels.template multiply<fixed>(objectA.object, objectB.object, objectD.object);
@@ -568,10 +424,8 @@ using SolidPanel = typename Factors<T, Order, Transposes1, Transposes2, true>::t
 template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, bool Streams = false>
 ZEPM_INLINE void multiplyObjectsOfOrder(const ProductCall& call)
 {
-    auto ofFixed = [&]<Fixed fixed>() __attribute__((always_inline))
-    {
-        multiplyOrder<T, Order, Transposes1, Transposes2, Solid, fixed, Streams>(call);
-    };
+    auto ofFixed = [&]<Fixed fixed>()
+                       ZEPM_INLINED { multiplyOrder<T, Order, Transposes1, Transposes2, Solid, fixed, Streams>(call); };
     // A fixed first factor is held where that saves shuffles; elsewhere its elements come from memory anyway.
     constexpr bool holdsFirst = Solid && !Streams && SolidPanel<T, Order, Transposes1, Transposes2>::permutes;
     if (call.b.isFixed) return ofFixed.template operator()<Fixed::Second>();
@@ -640,10 +494,9 @@ template <class T, int Order, bool Transposes1, bool Transposes2>
 template <class T, int Order, bool Transposes1, bool Transposes2>
 ZEPM_INLINE void multiplyPair(const MatrixOperand& a, const MatrixOperand& b, const MatrixOperand& d)
 {
-    auto multiply = [&]<bool Solid>() __attribute__((always_inline))
-    {
+    auto multiply = [&]<bool Solid>() ZEPM_INLINED {
         using These = Factors<T, Order, Transposes1, Transposes2, Solid>;
-        using All = typename These::template Panels<laneElements<T>>;
+        using All = typename These::template Panels<pieceLength<T>>;
         const typename These::Object objectA[]{{a.p, a.stride1}}, objectB[]{{b.p, b.stride1}},
             objectD[]{{d.p, d.stride1}};
         All(objectA, objectB).template multiply<Fixed::None>(objectA, objectB, objectD);

@@ -6,17 +6,17 @@
 namespace zepm
 {
 
-Status ownMul_mama_32f_Packed(const MultiplyMama<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mama_32f_Packed(const MultiplyMama<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 // Order 6 has no body of its own.
-Status ownMul_mama_32f_Strided(const MultiplyMama<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5>{}); }
-Status ownMul_mama_32f_L_Packed(const MultiplyMama<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mama_32f_Strided(const MultiplyMama<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5>{}); }
+Status ownMul_mama_32f_L_Packed(const MultiplyMama<float32, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_mama_32f_L_Strided(const MultiplyMama<float32, L>& x) { return forEachObject(x, ownMul_mm_32f_Strided); }
-Status ownMul_mama_32f_P(const MultiplyMama<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mama_64f_Packed(const MultiplyMama<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mama_64f_Strided(const MultiplyMama<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mama_64f_L_Packed(const MultiplyMama<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mama_32f_P(const MultiplyMama<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mama_64f_Packed(const MultiplyMama<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mama_64f_Strided(const MultiplyMama<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mama_64f_L_Packed(const MultiplyMama<float64, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_mama_64f_L_Strided(const MultiplyMama<float64, L>& x) { return forEachObject(x, ownMul_mm_64f_Strided); }
-Status ownMul_mama_64f_P(const MultiplyMama<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mama_64f_P(const MultiplyMama<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

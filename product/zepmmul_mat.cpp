@@ -6,18 +6,18 @@
 namespace zepm
 {
 
-Status ownMul_mat_32f_Packed(const MultiplyMat<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mat_32f_Packed(const MultiplyMat<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 // Order 3 alone has a body of its own.
-Status ownMul_mat_32f_Strided(const MultiplyMat<float32, S>& x) { return multiplyStrided(x, orders<3>{}); }
-Status ownMul_mat_32f_L_Packed(const MultiplyMat<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mat_32f_Strided(const MultiplyMat<float32, S>& x) { return multiplyStrided(x, sizes<3>{}); }
+Status ownMul_mat_32f_L_Packed(const MultiplyMat<float32, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 // Order 3 alone has a body of its own.
-Status ownMul_mat_32f_L_Strided(const MultiplyMat<float32, L>& x) { return multiplyStrided(x, orders<3>{}); }
-Status ownMul_mat_32f_P(const MultiplyMat<float32, P>& x) { return multiplyTable(x, orders<3>{}); }
-Status ownMul_mat_64f_Packed(const MultiplyMat<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mat_64f_Strided(const MultiplyMat<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mat_64f_L_Packed(const MultiplyMat<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mat_32f_L_Strided(const MultiplyMat<float32, L>& x) { return multiplyStrided(x, sizes<3>{}); }
+Status ownMul_mat_32f_P(const MultiplyMat<float32, P>& x) { return multiplyTable(x, sizes<3>{}); }
+Status ownMul_mat_64f_Packed(const MultiplyMat<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mat_64f_Strided(const MultiplyMat<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mat_64f_L_Packed(const MultiplyMat<float64, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_mat_64f_L_Strided(const MultiplyMat<float64, L>& x) { return forEachObject(x, ownMul_mt_64f_Strided); }
-Status ownMul_mat_64f_P(const MultiplyMat<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mat_64f_P(const MultiplyMat<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

@@ -6,16 +6,16 @@
 namespace zepm
 {
 
-Status ownMul_mata_32f_Packed(const MultiplyMata<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mata_32f_Strided(const MultiplyMata<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mata_32f_L_Packed(const MultiplyMata<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mata_32f_Packed(const MultiplyMata<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mata_32f_Strided(const MultiplyMata<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mata_32f_L_Packed(const MultiplyMata<float32, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_mata_32f_L_Strided(const MultiplyMata<float32, L>& x) { return forEachObject(x, ownMul_mt_32f_Strided); }
-Status ownMul_mata_32f_P(const MultiplyMata<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mata_64f_Packed(const MultiplyMata<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mata_64f_Strided(const MultiplyMata<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mata_64f_L_Packed(const MultiplyMata<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mata_32f_P(const MultiplyMata<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mata_64f_Packed(const MultiplyMata<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mata_64f_Strided(const MultiplyMata<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mata_64f_L_Packed(const MultiplyMata<float64, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_mata_64f_L_Strided(const MultiplyMata<float64, L>& x) { return forEachObject(x, ownMul_mt_64f_Strided); }
-Status ownMul_mata_64f_P(const MultiplyMata<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mata_64f_P(const MultiplyMata<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

@@ -6,13 +6,13 @@
 namespace zepm
 {
 
-Status ownMul_mm_32f_Packed(const MultiplyMm<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mm_32f_Strided(const MultiplyMm<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mm_32f_Packed(const MultiplyMm<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mm_32f_Strided(const MultiplyMm<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
 // Orders 3 and 4 are told by the sizes taken together: see OrdersByOr.
 Status ownMul_mm_32f_P(const MultiplyMm<float32, P>& x) { return multiplyTable(x, OrdersByOr{}); }
-Status ownMul_mm_64f_Packed(const MultiplyMm<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mm_64f_Strided(const MultiplyMm<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mm_64f_P(const MultiplyMm<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mm_64f_Packed(const MultiplyMm<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mm_64f_Strided(const MultiplyMm<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mm_64f_P(const MultiplyMm<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

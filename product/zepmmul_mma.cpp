@@ -6,16 +6,16 @@
 namespace zepm
 {
 
-Status ownMul_mma_32f_Packed(const MultiplyMma<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_32f_Strided(const MultiplyMma<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_32f_L_Packed(const MultiplyMma<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_32f_Packed(const MultiplyMma<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mma_32f_Strided(const MultiplyMma<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mma_32f_L_Packed(const MultiplyMma<float32, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_mma_32f_L_Strided(const MultiplyMma<float32, L>& x) { return forEachObject(x, ownMul_mm_32f_Strided); }
-Status ownMul_mma_32f_P(const MultiplyMma<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_64f_Packed(const MultiplyMma<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_64f_Strided(const MultiplyMma<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mma_64f_L_Packed(const MultiplyMma<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_32f_P(const MultiplyMma<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mma_64f_Packed(const MultiplyMma<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mma_64f_Strided(const MultiplyMma<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mma_64f_L_Packed(const MultiplyMma<float64, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_mma_64f_L_Strided(const MultiplyMma<float64, L>& x) { return forEachObject(x, ownMul_mm_64f_Strided); }
-Status ownMul_mma_64f_P(const MultiplyMma<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mma_64f_P(const MultiplyMma<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

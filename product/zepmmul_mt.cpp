@@ -6,12 +6,12 @@
 namespace zepm
 {
 
-Status ownMul_mt_32f_Packed(const MultiplyMt<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mt_32f_Strided(const MultiplyMt<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mt_32f_P(const MultiplyMt<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mt_64f_Packed(const MultiplyMt<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mt_64f_Strided(const MultiplyMt<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mt_64f_P(const MultiplyMt<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mt_32f_Packed(const MultiplyMt<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mt_32f_Strided(const MultiplyMt<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mt_32f_P(const MultiplyMt<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mt_64f_Packed(const MultiplyMt<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mt_64f_Strided(const MultiplyMt<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mt_64f_P(const MultiplyMt<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

@@ -6,17 +6,17 @@
 namespace zepm
 {
 
-Status ownMul_mta_32f_Packed(const MultiplyMta<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mta_32f_Strided(const MultiplyMta<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mta_32f_Packed(const MultiplyMta<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mta_32f_Strided(const MultiplyMta<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
 // No order has a body of its own: sums start from zero at every order.
-Status ownMul_mta_32f_L_Packed(const MultiplyMta<float32, L>& x) { return multiplyPacked(x, orders<>{}); }
+Status ownMul_mta_32f_L_Packed(const MultiplyMta<float32, L>& x) { return multiplyPacked(x, sizes<>{}); }
 Status ownMul_mta_32f_L_Strided(const MultiplyMta<float32, L>& x) { return forEachObject(x, ownMul_mt_32f_Strided); }
-Status ownMul_mta_32f_P(const MultiplyMta<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mta_64f_Packed(const MultiplyMta<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mta_64f_Strided(const MultiplyMta<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_mta_64f_L_Packed(const MultiplyMta<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mta_32f_P(const MultiplyMta<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mta_64f_Packed(const MultiplyMta<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mta_64f_Strided(const MultiplyMta<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_mta_64f_L_Packed(const MultiplyMta<float64, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_mta_64f_L_Strided(const MultiplyMta<float64, L>& x) { return forEachObject(x, ownMul_mt_64f_Strided); }
-Status ownMul_mta_64f_P(const MultiplyMta<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_mta_64f_P(const MultiplyMta<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

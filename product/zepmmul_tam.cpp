@@ -6,18 +6,18 @@
 namespace zepm
 {
 
-Status ownMul_tam_32f_Packed(const MultiplyTam<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tam_32f_Packed(const MultiplyTam<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 // Order 3 alone has a body of its own.
-Status ownMul_tam_32f_Strided(const MultiplyTam<float32, S>& x) { return multiplyStrided(x, orders<3>{}); }
-Status ownMul_tam_32f_L_Packed(const MultiplyTam<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tam_32f_Strided(const MultiplyTam<float32, S>& x) { return multiplyStrided(x, sizes<3>{}); }
+Status ownMul_tam_32f_L_Packed(const MultiplyTam<float32, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 // Order 3 alone has a body of its own.
-Status ownMul_tam_32f_L_Strided(const MultiplyTam<float32, L>& x) { return multiplyStrided(x, orders<3>{}); }
-Status ownMul_tam_32f_P(const MultiplyTam<float32, P>& x) { return multiplyTable(x, orders<3>{}); }
-Status ownMul_tam_64f_Packed(const MultiplyTam<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tam_64f_Strided(const MultiplyTam<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tam_64f_L_Packed(const MultiplyTam<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tam_32f_L_Strided(const MultiplyTam<float32, L>& x) { return multiplyStrided(x, sizes<3>{}); }
+Status ownMul_tam_32f_P(const MultiplyTam<float32, P>& x) { return multiplyTable(x, sizes<3>{}); }
+Status ownMul_tam_64f_Packed(const MultiplyTam<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tam_64f_Strided(const MultiplyTam<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tam_64f_L_Packed(const MultiplyTam<float64, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_tam_64f_L_Strided(const MultiplyTam<float64, L>& x) { return forEachObject(x, ownMul_tm_64f_Strided); }
-Status ownMul_tam_64f_P(const MultiplyTam<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tam_64f_P(const MultiplyTam<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

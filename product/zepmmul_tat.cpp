@@ -6,17 +6,17 @@
 namespace zepm
 {
 
-Status ownMul_tat_32f_Packed(const MultiplyTat<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_32f_Strided(const MultiplyTat<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_32f_L_Packed(const MultiplyTat<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_32f_Packed(const MultiplyTat<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tat_32f_Strided(const MultiplyTat<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tat_32f_L_Packed(const MultiplyTat<float32, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 // Order 3 alone has a body of its own.
-Status ownMul_tat_32f_L_Strided(const MultiplyTat<float32, L>& x) { return multiplyStrided(x, orders<3>{}); }
-Status ownMul_tat_32f_P(const MultiplyTat<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_64f_Packed(const MultiplyTat<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_64f_Strided(const MultiplyTat<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tat_64f_L_Packed(const MultiplyTat<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_32f_L_Strided(const MultiplyTat<float32, L>& x) { return multiplyStrided(x, sizes<3>{}); }
+Status ownMul_tat_32f_P(const MultiplyTat<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tat_64f_Packed(const MultiplyTat<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tat_64f_Strided(const MultiplyTat<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tat_64f_L_Packed(const MultiplyTat<float64, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_tat_64f_L_Strided(const MultiplyTat<float64, L>& x) { return forEachObject(x, ownMul_tt_64f_Strided); }
-Status ownMul_tat_64f_P(const MultiplyTat<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tat_64f_P(const MultiplyTat<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

@@ -6,16 +6,16 @@
 namespace zepm
 {
 
-Status ownMul_tata_32f_Packed(const MultiplyTata<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tata_32f_Strided(const MultiplyTata<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tata_32f_L_Packed(const MultiplyTata<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tata_32f_Packed(const MultiplyTata<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tata_32f_Strided(const MultiplyTata<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tata_32f_L_Packed(const MultiplyTata<float32, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_tata_32f_L_Strided(const MultiplyTata<float32, L>& x) { return forEachObject(x, ownMul_tt_32f_Strided); }
-Status ownMul_tata_32f_P(const MultiplyTata<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tata_64f_Packed(const MultiplyTata<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tata_64f_Strided(const MultiplyTata<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tata_64f_L_Packed(const MultiplyTata<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tata_32f_P(const MultiplyTata<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tata_64f_Packed(const MultiplyTata<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tata_64f_Strided(const MultiplyTata<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tata_64f_L_Packed(const MultiplyTata<float64, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_tata_64f_L_Strided(const MultiplyTata<float64, L>& x) { return forEachObject(x, ownMul_tt_64f_Strided); }
-Status ownMul_tata_64f_P(const MultiplyTata<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tata_64f_P(const MultiplyTata<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

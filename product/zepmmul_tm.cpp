@@ -7,12 +7,12 @@ namespace zepm
 {
 
 // Order 6 has no body of its own.
-Status ownMul_tm_32f_Packed(const MultiplyTm<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5>{}); }
-Status ownMul_tm_32f_Strided(const MultiplyTm<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tm_32f_P(const MultiplyTm<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tm_64f_Packed(const MultiplyTm<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tm_64f_Strided(const MultiplyTm<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tm_64f_P(const MultiplyTm<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tm_32f_Packed(const MultiplyTm<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5>{}); }
+Status ownMul_tm_32f_Strided(const MultiplyTm<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tm_32f_P(const MultiplyTm<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tm_64f_Packed(const MultiplyTm<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tm_64f_Strided(const MultiplyTm<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tm_64f_P(const MultiplyTm<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

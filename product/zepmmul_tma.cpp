@@ -6,16 +6,16 @@
 namespace zepm
 {
 
-Status ownMul_tma_32f_Packed(const MultiplyTma<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tma_32f_Strided(const MultiplyTma<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tma_32f_L_Packed(const MultiplyTma<float32, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tma_32f_Packed(const MultiplyTma<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tma_32f_Strided(const MultiplyTma<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tma_32f_L_Packed(const MultiplyTma<float32, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_tma_32f_L_Strided(const MultiplyTma<float32, L>& x) { return forEachObject(x, ownMul_tm_32f_Strided); }
-Status ownMul_tma_32f_P(const MultiplyTma<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tma_64f_Packed(const MultiplyTma<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tma_64f_Strided(const MultiplyTma<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tma_64f_L_Packed(const MultiplyTma<float64, L>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tma_32f_P(const MultiplyTma<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tma_64f_Packed(const MultiplyTma<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tma_64f_Strided(const MultiplyTma<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tma_64f_L_Packed(const MultiplyTma<float64, L>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
 Status ownMul_tma_64f_L_Strided(const MultiplyTma<float64, L>& x) { return forEachObject(x, ownMul_tm_64f_Strided); }
-Status ownMul_tma_64f_P(const MultiplyTma<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tma_64f_P(const MultiplyTma<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

@@ -6,11 +6,11 @@
 namespace zepm
 {
 
-Status ownMul_tt_32f_Packed(const MultiplyTt<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tt_32f_Strided(const MultiplyTt<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tt_32f_P(const MultiplyTt<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tt_64f_Packed(const MultiplyTt<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tt_64f_Strided(const MultiplyTt<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tt_32f_Packed(const MultiplyTt<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tt_32f_Strided(const MultiplyTt<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tt_32f_P(const MultiplyTt<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tt_64f_Packed(const MultiplyTt<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tt_64f_Strided(const MultiplyTt<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
 // Orders 3 and 4 are told by the sizes taken together: see OrdersByOr.
 Status ownMul_tt_64f_P(const MultiplyTt<float64, P>& x) { return multiplyTable(x, OrdersByOr{}); }
 

@@ -6,18 +6,18 @@
 namespace zepm
 {
 
-Status ownMul_tta_32f_Packed(const MultiplyTta<float32, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tta_32f_Strided(const MultiplyTta<float32, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tta_32f_Packed(const MultiplyTta<float32, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tta_32f_Strided(const MultiplyTta<float32, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
 // No order has a body of its own: sums start from zero at every order.
-Status ownMul_tta_32f_L_Packed(const MultiplyTta<float32, L>& x) { return multiplyPacked(x, orders<>{}); }
+Status ownMul_tta_32f_L_Packed(const MultiplyTta<float32, L>& x) { return multiplyPacked(x, sizes<>{}); }
 Status ownMul_tta_32f_L_Strided(const MultiplyTta<float32, L>& x) { return forEachObject(x, ownMul_tt_32f_Strided); }
-Status ownMul_tta_32f_P(const MultiplyTta<float32, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tta_64f_Packed(const MultiplyTta<float64, S>& x) { return multiplyPacked(x, orders<3, 4, 5, 6>{}); }
-Status ownMul_tta_64f_Strided(const MultiplyTta<float64, S>& x) { return multiplyStrided(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tta_32f_P(const MultiplyTta<float32, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tta_64f_Packed(const MultiplyTta<float64, S>& x) { return multiplyPacked(x, sizes<3, 4, 5, 6>{}); }
+Status ownMul_tta_64f_Strided(const MultiplyTta<float64, S>& x) { return multiplyStrided(x, sizes<3, 4, 5, 6>{}); }
 // No order has a body of its own: sums start from zero at every order.
-Status ownMul_tta_64f_L_Packed(const MultiplyTta<float64, L>& x) { return multiplyPacked(x, orders<>{}); }
+Status ownMul_tta_64f_L_Packed(const MultiplyTta<float64, L>& x) { return multiplyPacked(x, sizes<>{}); }
 Status ownMul_tta_64f_L_Strided(const MultiplyTta<float64, L>& x) { return forEachObject(x, ownMul_tt_64f_Strided); }
-Status ownMul_tta_64f_P(const MultiplyTta<float64, P>& x) { return multiplyTable(x, orders<3, 4, 5, 6>{}); }
+Status ownMul_tta_64f_P(const MultiplyTta<float64, P>& x) { return multiplyTable(x, sizes<3, 4, 5, 6>{}); }
 
 } // namespace zepm
 

@@ -3,7 +3,7 @@
 // Orders 3 to 6 are straight-line code on a local matrix, in arrays one matrix in each lane: rows without gaps move by
 // pieces, all other layouts element by element. All other orders are eliminated in the destination.
 #include "solver/factor.h"
-#include "solver/groups.h"
+#include "solver/pivots.h"
 
 namespace zepm::ZEPM_LEVEL
 {
@@ -29,17 +29,17 @@ struct Local
 template <class T, int N, int W>
 ZEPM_INLINE void choosePivot(Local<T, N, W>& m, int p)
 {
-    Mask<T, W> isPivot[N];
-    Vec<T, W> best = absolute(m.a[p][p]);
+    MaskOf<T, W> isPivot[N];
+    Vec<T, W> best = magnitude(m.a[p][p]);
     ZEPM_UNROLL
     for (int i = p + 1; i < N; ++i)
     {
-        const Vec<T, W> candidate = absolute(m.a[i][p]);
-        const Mask<T, W> isBetter = candidate > best;
+        const Vec<T, W> candidate = magnitude(m.a[i][p]);
+        const MaskOf<T, W> isBetter = candidate > best;
         ZEPM_UNROLL
         for (int e = p + 1; e < i; ++e) isPivot[e] = butNot(isPivot[e], isBetter);
         isPivot[i] = isBetter;
-        best = isBetter ? candidate : best;
+        best = select(isBetter, candidate, best);
     }
     ZEPM_UNROLL
     for (int i = p + 1; i < N; ++i)
@@ -84,7 +84,7 @@ template <class T, int N, int W>
     for (; p < N; ++p)
     {
         if (p < N - 1) choosePivot(m, p);
-        if (any(absolute(m.a[p][p]) < broadcast<T, W>(tiny<T>))) break;
+        if (any(magnitude(m.a[p][p]) < broadcast<T, W>(tiny<T>))) break;
         if (p < N - 1) clearColumn(m, p);
     }
     result = m;
@@ -103,7 +103,7 @@ ZEPM_INLINE LaneRows<W> rowsOf(const Local<T, N, W>& m, int p)
 // A group, if none of its matrices is singular; otherwise nothing is written. pivots are those of one lane after the
 // other.
 template <class T, int N, int W>
-[[gnu::noinline]] bool factorRows(const Group<const T, W>& source, char* pivots, const Group<T, W>& destination)
+[[gnu::noinline]] bool factorRows(const RowGroup<const T, W>& source, char* pivots, const RowGroup<T, W>& destination)
 {
     Local<T, N, W> m;
     readMatrix(source, m.a);
@@ -125,19 +125,9 @@ template <class T, int N, int W>
 
 // ---- The same, element by element: single matrices, and groups of any layout ----------------------------------------
 
-template <class T, int N, int W, class Source>
-ZEPM_INLINE void readLane(Local<T, N, W>& m, int lane, const Source& source)
-{
-    for (int i = 0; i < N; ++i)
-    {
-        ZEPM_UNROLL
-        for (int j = 0; j < N; ++j) setLane<T>(m.a[i][j], lane, source.get(i, j));
-    }
-}
-
 // All pivots, and the rows of the accepted ones.
 template <class T, int N, int W, class Destination>
-ZEPM_INLINE void writeLane(const Local<T, N, W>& m, int lane, int accepted, const PivotObject<int32>& pivots,
+ZEPM_INLINE void writeLane(const Local<T, N, W>& m, int lane, int accepted, const DenseObject<int32>& pivots,
                            const Destination& destination)
 {
     for (int p = 0; p < N; ++p)
@@ -151,11 +141,15 @@ ZEPM_INLINE void writeLane(const Local<T, N, W>& m, int lane, int accepted, cons
 }
 
 template <class T, int N, class Source, class Destination>
-[[gnu::noinline]] Status factorOne(const Source& source, const PivotObject<int32>& pivots,
+[[gnu::noinline]] Status factorOne(const Source& source, const DenseObject<int32>& pivots,
                                    const Destination& destination)
 {
     Local<T, N, 1> m;
-    readLane(m, 0, source);
+    for (int i = 0; i < N; ++i)
+    {
+        ZEPM_UNROLL
+        for (int j = 0; j < N; ++j) m.a[i][j] = source.get(i, j);
+    }
     const int accepted = eliminate(m);
     writeLane(m, 0, accepted, pivots, destination);
     return accepted == N ? stsOk : stsSingularErr;
@@ -163,11 +157,11 @@ template <class T, int N, class Source, class Destination>
 
 // As factorRows.
 template <class T, int N, int W, class Source, class Destination>
-[[gnu::noinline]] bool factorElements(const Source& source, const PivotBlock<int32>& pivots,
+[[gnu::noinline]] bool factorElements(const Source& source, const DenseBlock<int32>& pivots,
                                       const Destination& destination, int32 k, int32 size)
 {
     Local<T, N, W> m;
-    for (int lane = 0; lane < W; ++lane) readLane(m, lane, source.object(k + (lane < size ? lane : size - 1)));
+    gatherElements<T, W>(source, k, size, m.a);
     if (eliminate(m) < N) return false;
     for (int lane = 0; lane < size; ++lane)
         writeLane(m, lane, N, pivots.object(k + lane, N), destination.object(k + lane));
@@ -181,27 +175,25 @@ template <class T, class X, class Source, class Destination>
 ZEPM_INLINE Status factorWrittenOut(const X& x, const Source& source, const Destination& destination)
 {
     const int32 order = x.widthHeight;
-    const auto one = forOrder(order, []<int N>() {
-        return &factorOne<T, N, decltype(source.object(0)), decltype(destination.object(0))>;
-    });
+    const auto one = forWrittenOrder(
+        order, []<int N>() { return &factorOne<T, N, decltype(source.object(0)), decltype(destination.object(0))>; });
     if constexpr (!decltype(x.dst)::isArray)
         return one(source.object(0), x.pivots.object(0, order), destination.object(0));
     else
     {
         constexpr int W = lanes<T>;
         constexpr int leastGroup = 2; // fewer matrices are not worth a group
-        const auto group = forOrder(order, []<int N>() {
-            if constexpr (isContiguous<Source>)
+        const auto group = forWrittenOrder(order, []<int N>() {
+            if constexpr (hasContiguousRows<Source>)
                 return &factorRows<T, N, W>;
             else
                 return &factorElements<T, N, W, Source, Destination>;
         });
-        auto factorGroup = [&](int32 k, int32 size) __attribute__((always_inline))
-        {
-            if constexpr (isContiguous<Source>)
+        auto factorGroup = [&](int32 k, int32 size) ZEPM_INLINED {
+            if constexpr (hasContiguousRows<Source>)
             {
                 const GroupPivots<int32, W> pivots(x.pivots, k, size, order);
-                if (!group(Group<const T, W>(source, k, size), pivots.p, Group<T, W>(destination, k, size)))
+                if (!group(RowGroup<const T, W>(source, k, size), pivots.p, RowGroup<T, W>(destination, k, size)))
                     return false;
                 pivots.finish(x.pivots, k, size, order);
                 return true;
@@ -209,16 +201,9 @@ ZEPM_INLINE Status factorWrittenOut(const X& x, const Source& source, const Dest
             else
                 return group(source, x.pivots, destination, k, size);
         };
-        for (int32 left = x.count; left > 0; left -= W)
-        {
-            const int32 k = x.count - left;
-            const int32 size = left < W ? left : W;
-            if (size >= leastGroup && factorGroup(k, size)) continue;
-            for (int32 n = k; n < k + size; ++n)
-                if (const Status status = one(source.object(n), x.pivots.object(n, order), destination.object(n)))
-                    return status;
-        }
-        return stsOk;
+        return forGroups(x.count, W, leastGroup, factorGroup, [&](int32 n) ZEPM_INLINED {
+            return one(source.object(n), x.pivots.object(n, order), destination.object(n));
+        });
     }
 }
 
@@ -235,8 +220,7 @@ ZEPM_INLINE void subtractRow(const StridedObject<T, true>& d, int32 i, T multipl
     char* const row = d.at(i, 0);
     const char* const pivotRow = d.at(p, 0);
     ptrdiff_t j = first;
-    auto step = [&]<int M>() __attribute__((always_inline))
-    {
+    auto step = [&]<int M>() ZEPM_INLINED {
         const ptrdiff_t at = j * static_cast<ptrdiff_t>(sizeof(T));
         storeVec<T, M>(row + at, loadVec<T, M>(row + at) - broadcast<T, M>(multiplier) * loadVec<T, M>(pivotRow + at));
         j += M;
@@ -259,7 +243,7 @@ ZEPM_INLINE void subtractRow(const Destination& d, int32 i, T multiplier, int32 
 }
 
 template <class T, class Source, class Destination>
-[[gnu::noinline]] Status ownLUDecompGeneral(const Source& source, const PivotObject<int32>& pivots,
+[[gnu::noinline]] Status ownLUDecompGeneral(const Source& source, const DenseObject<int32>& pivots,
                                             const Destination& d, int32 n)
 {
     for (int32 i = 0; i < n; ++i)
@@ -269,11 +253,11 @@ template <class T, class Source, class Destination>
     }
     for (int32 p = 0; p < n - 1; ++p)
     {
-        T best = absolute(d.get(pivots.get(p), p));
+        T best = magnitude(d.get(pivots.get(p), p));
         int32 q = p;
         for (int32 i = p + 1; i < n; ++i)
         {
-            const T candidate = absolute(d.get(pivots.get(i), p));
+            const T candidate = magnitude(d.get(pivots.get(i), p));
             if (candidate > best)
             {
                 best = candidate;
@@ -296,7 +280,7 @@ template <class T, class Source, class Destination>
             subtractRow<T>(d, row, multiplier, pivotRow, p + 1, n);
         }
     }
-    return absolute(d.get(pivots.get(n - 1), n - 1)) <= eps<T> ? stsSingularErr : stsOk;
+    return magnitude(d.get(pivots.get(n - 1), n - 1)) <= eps<T> ? stsSingularErr : stsOk;
 }
 
 } // namespace
@@ -309,7 +293,7 @@ Status factor(const X& x)
     const int32 n = x.widthHeight;
     const auto source = x.src.template view<Contiguous>(n);
     const auto destination = x.dst.template view<Contiguous>(n);
-    if (n >= 3 && n <= largestWrittenOut) return factorWrittenOut<T>(x, source, destination);
+    if (writtenOrders.have(n)) return factorWrittenOut<T>(x, source, destination);
     for (int32 k = 0; k < x.count; ++k)
         if (const Status status =
                 ownLUDecompGeneral<T>(source.object(k), x.pivots.object(k, n), destination.object(k), n))

@@ -6,48 +6,13 @@
 namespace zepm
 {
 
-// The pivot row numbers of one matrix.
-template <class I>
-struct PivotObject
-{
-    I* p;
-    ZEPM_INLINE int32 get(int32 i) const { return load<I>(p + i); }
-    ZEPM_INLINE void set(int32 i, int32 row) const { store<int32>(p + i, row); }
-};
-
-// Pivot row numbers: order of them for each matrix, dense in every layout. I is int32 or const int32.
-template <class I>
-struct PivotBlock : Block<I>
-{
-    I* p;
-
-    ZEPM_INLINE PivotBlock(I* base) : p(base) {}
-    ZEPM_INLINE bool isNull() const { return !p; }
-    ZEPM_INLINE PivotBlock from(int32 first, int32 order) const { return object(first, order).p; }
-    ZEPM_INLINE PivotObject<I> object(int32 k, int32 order) const { return {p + static_cast<ptrdiff_t>(k) * order}; }
-};
-
-// What all these forms answer to the questions of the frame; widthHeight is the order of the matrices.
-template <class X>
-struct SquareForm
-{
-    ZEPM_INLINE bool sizesValid() const { return self().widthHeight >= 1; }
-    ZEPM_INLINE bool isPacked() const
-    {
-        return self().operands([](const auto& block) { return block.contiguous(); });
-    }
-
-private:
-    ZEPM_INLINE const X& self() const { return static_cast<const X&>(*this); }
-};
-
 // A matrix, or an array of them, into its factors and pivots.
 template <class Src, class Dst>
-struct Factoring : SquareForm<Factoring<Src, Dst>>
+struct Factoring
 {
     static constexpr bool canFail = true;
     Src src;
-    PivotBlock<int32> pivots;
+    DenseBlock<int32> pivots; // row numbers, as many as the order
     Dst dst;
     int32 widthHeight;
     int32 count;
@@ -61,6 +26,7 @@ struct Factoring : SquareForm<Factoring<Src, Dst>>
     {
         return f(src) && f(pivots) && f(dst);
     }
+    ZEPM_INLINE bool sizesValid() const { return widthHeight >= 1; }
     ZEPM_INLINE int32 estimate() const { return (Work(widthHeight) * widthHeight * count).estimate(); }
     ZEPM_INLINE Factoring share(int32 first, int32 n) const
     {
@@ -70,11 +36,11 @@ struct Factoring : SquareForm<Factoring<Src, Dst>>
 
 // Systems of equations: factors and pivots, a right-hand side, a solution. One matrix may serve all right-hand sides.
 template <class Matrix, class Rhs, class Dst>
-struct Solving : SquareForm<Solving<Matrix, Rhs, Dst>>
+struct Solving
 {
     static constexpr bool sharesMatrix = Dst::isArray && !Matrix::isArray;
     Matrix matrix;
-    PivotBlock<const int32> pivots;
+    DenseBlock<const int32> pivots;
     Rhs rhs;
     Dst dst;
     int32 widthHeight;
@@ -90,6 +56,7 @@ struct Solving : SquareForm<Solving<Matrix, Rhs, Dst>>
     {
         return f(matrix) && f(pivots) && f(rhs) && f(dst);
     }
+    ZEPM_INLINE bool sizesValid() const { return widthHeight >= 1; }
     ZEPM_INLINE int32 estimate() const
     {
         const Work n(widthHeight);
@@ -101,7 +68,7 @@ struct Solving : SquareForm<Solving<Matrix, Rhs, Dst>>
                 rhs.from(first),    dst.from(first),
                 widthHeight,        n};
     }
-    ZEPM_INLINE PivotObject<const int32> pivotsOf(int32 k) const
+    ZEPM_INLINE DenseObject<const int32> pivotsOf(int32 k) const
     {
         return pivots.object(sharesMatrix ? 0 : k, widthHeight);
     }

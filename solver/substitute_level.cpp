@@ -2,7 +2,7 @@
 //
 // Orders 3 to 6 are straight-line code on local values, in arrays one system in each lane: rows without gaps move by
 // pieces, all other layouts element by element. All other orders work in the destination, several systems in turn.
-#include "solver/groups.h"
+#include "solver/pivots.h"
 #include "solver/substitute.h"
 
 namespace zepm::ZEPM_LEVEL
@@ -36,42 +36,25 @@ ZEPM_INLINE void solve(const Factors& f, V (&y)[N], Finish finish)
 template <class V, int N, class Factors>
 ZEPM_INLINE void solveDividing(const Factors& f, V (&y)[N])
 {
-    solve(
-        f, y, [&](V x, int i) __attribute__((always_inline)) { return x / f(i, i); });
+    solve(f, y, [&](V x, int i) ZEPM_INLINED { return x / f(i, i); });
 }
 
 // Whether right-hand sides are brought to the order of the pivots in registers, an object's in a piece.
 template <class T, int N, int W>
 inline constexpr bool permutesPieces = registerBytes > 16 && sizeof(T) == 4 && N == 4 && W > 1;
 
-// Element row of each lane of a piece for that lane; row is taken modulo 4.
-template <int W>
-ZEPM_INLINE Vec<float32, W> permutedPieces([[maybe_unused]] Vec<float32, W> x, [[maybe_unused]] Vec<int32, W> row)
-{
-#if defined(__AVX512F__)
-    if constexpr (W == 16)
-        return reinterpret_cast<Vec<float32, W>>(
-            _mm512_maskz_permutevar_ps(0xffff, reinterpret_cast<__m512>(x), reinterpret_cast<__m512i>(row)));
-#endif
-#if defined(__AVX2__)
-    if constexpr (W == 8)
-        return reinterpret_cast<Vec<float32, W>>(
-            _mm256_permutevar_ps(reinterpret_cast<__m256>(x), reinterpret_cast<__m256i>(row)));
-#endif
-}
-
 // Systems with a matrix each; pivots are those of one lane after the other. False, with nothing written, if rows are to
 // be permuted in registers and a pivot is none of the N rows: what it then addresses is not there.
 template <class T, int N, int W>
-[[gnu::noinline]] bool solveRows(const Group<const T, W>& matrix, const char* pivots, const Group<const T, W>& rhs,
-                                 const Group<T, W>& destination)
+[[gnu::noinline]] bool solveRows(const RowGroup<const T, W>& matrix, const char* pivots,
+                                 const RowGroup<const T, W>& rhs, const RowGroup<T, W>& destination)
 {
     Vec<T, W> f[N][N], y[N];
     if constexpr (permutesRows<N> && W > 1)
     {
         Vec<IntOf<T>, W> row[N];
         readPivotLanes<IntOf<T>, N, W>(pivots, row);
-        Mask<T, W> isOutside{};
+        MaskOf<T, W> isOutside{};
         ZEPM_UNROLL
         for (int i = 0; i < N; ++i) isOutside = isOutside | (row[i] < 0) | (row[i] >= N);
         if (any(isOutside)) return false;
@@ -82,11 +65,8 @@ template <class T, int N, int W>
         for (int i = 0; i < N; ++i)
         {
             ZEPM_UNROLL
-            for (int j = 0; j < N; ++j)
-                f[i][j] = picked<N>(
-                    row[i], [&](int r) __attribute__((always_inline)) { return stored[r][j]; });
-            y[i] = picked<N>(
-                row[i], [&](int r) __attribute__((always_inline)) { return b[r]; });
+            for (int j = 0; j < N; ++j) f[i][j] = picked<N>(row[i], [&](int r) ZEPM_INLINED { return stored[r][j]; });
+            y[i] = picked<N>(row[i], [&](int r) ZEPM_INLINED { return b[r]; });
         }
     }
     else
@@ -100,7 +80,7 @@ template <class T, int N, int W>
             if (any((isOutside & ~(N - 1)) != 0)) return false;
             loadPieces<T, W>(rhs.p, y);
             ZEPM_UNROLL
-            for (int i = 0; i < N; ++i) y[i] = permutedPieces<W>(y[i], row[i]);
+            for (int i = 0; i < N; ++i) y[i] = permutePieces(y[i], row[i]);
             transposePieces<T, W>(y);
         }
         LaneRows<W> rows[N];
@@ -112,15 +92,14 @@ template <class T, int N, int W>
             if constexpr (!permutesPieces<T, N, W>) y[i] = rhs.getAcross(rows[i]);
         }
     }
-    solveDividing(
-        [&](int i, int j) __attribute__((always_inline)) { return f[i][j]; }, y);
+    solveDividing([&](int i, int j) ZEPM_INLINED { return f[i][j]; }, y);
     destination.template writeVectors<N>(y);
     return true;
 }
 
 // One system of any layout.
 template <class T, int N, class Matrix, class Rhs, class Destination>
-[[gnu::noinline]] void solveOne(const Matrix& matrix, const PivotObject<const int32>& pivots, const Rhs& rhs,
+[[gnu::noinline]] void solveOne(const Matrix& matrix, const DenseObject<const int32>& pivots, const Rhs& rhs,
                                 const Destination& x)
 {
     int32 row[N];
@@ -131,8 +110,7 @@ template <class T, int N, class Matrix, class Rhs, class Destination>
         row[i] = pivots.get(i);
         y[i] = rhs.get(0, row[i]);
     }
-    solveDividing(
-        [&](int i, int j) __attribute__((always_inline)) { return matrix.get(row[i], j); }, y);
+    solveDividing([&](int i, int j) ZEPM_INLINED { return matrix.get(row[i], j); }, y);
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i) x.set(0, i, y[i]);
 }
@@ -170,8 +148,7 @@ template <class T, int N, int W>
     Vec<T, W> y[N];
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i) y[i] = inOut[i];
-    solveDividing(
-        [&](int i, int j) __attribute__((always_inline)) { return f[i][j]; }, y);
+    solveDividing([&](int i, int j) ZEPM_INLINED { return f[i][j]; }, y);
     ZEPM_UNROLL
     for (int i = 0; i < N; ++i) inOut[i] = y[i];
 }
@@ -209,7 +186,7 @@ struct SharedFactors
     bool rowsInside = true; // of the right-hand side too
 
     template <int N, class Matrix>
-    [[gnu::noinline]] void read(const Matrix& matrix, const PivotObject<const int32>& pivots)
+    [[gnu::noinline]] void read(const Matrix& matrix, const DenseObject<const int32>& pivots)
     {
         for (int i = 0; i < N; ++i)
         {
@@ -223,15 +200,14 @@ struct SharedFactors
     template <int N>
     ZEPM_INLINE void solve(Vec<T, W> (&y)[N]) const
     {
-        ZEPM_LEVEL::solve(
-            [&](int i, int j) __attribute__((always_inline)) { return f[i * N + j]; }, y,
-            [&](Vec<T, W> x, int i) __attribute__((always_inline)) { return x * reciprocal[i]; });
+        ZEPM_LEVEL::solve([&](int i, int j) ZEPM_INLINED { return f[i * N + j]; }, y,
+                          [&](Vec<T, W> x, int i) ZEPM_INLINED { return x * reciprocal[i]; });
     }
 };
 
 template <class T, int N, int W>
-[[gnu::noinline]] void solveSharedRows(const SharedFactors<T, W>& shared, const Group<const T, W>& rhs,
-                                       const Group<T, W>& destination)
+[[gnu::noinline]] void solveSharedRows(const SharedFactors<T, W>& shared, const RowGroup<const T, W>& rhs,
+                                       const RowGroup<T, W>& destination)
 {
     Vec<T, W> b[N], y[N];
     if (shared.rowsInside)
@@ -264,38 +240,33 @@ template <class T, class X, class Matrix, class Rhs, class Destination>
 ZEPM_INLINE void solveSeparate(const X& x, const Matrix& matrix, const Rhs& rhs, const Destination& destination)
 {
     const int32 order = x.widthHeight;
-    const auto one = forOrder(order, []<int N>() {
+    const auto one = forWrittenOrder(order, []<int N>() {
         return &solveOne<T, N, decltype(matrix.object(0)), decltype(rhs.object(0)), decltype(destination.object(0))>;
     });
     if constexpr (decltype(x.dst)::isArray)
     {
         constexpr int W = lanes<T>;
         constexpr int leastGroup = 2; // fewer systems are not worth a group
-        const auto group = forOrder(order, []<int N>() {
-            if constexpr (isContiguous<Matrix>)
+        const auto group = forWrittenOrder(order, []<int N>() {
+            if constexpr (hasContiguousRows<Matrix>)
                 return &solveRows<T, N, W>;
             else
                 return &solveElements<T, N, W, X, Matrix, Rhs, Destination>;
         });
-        auto solveGroup = [&](int32 k, int32 size) __attribute__((always_inline))
-        {
-            if constexpr (isContiguous<Matrix>)
+        auto solveGroup = [&](int32 k, int32 size) ZEPM_INLINED {
+            if constexpr (hasContiguousRows<Matrix>)
             {
                 const GroupPivots<const int32, W> pivots(x.pivots, k, size, order);
-                return group(Group<const T, W>(matrix, k, size), pivots.p, Group<const T, W>(rhs, k, size),
-                             Group<T, W>(destination, k, size));
+                return group(RowGroup<const T, W>(matrix, k, size), pivots.p, RowGroup<const T, W>(rhs, k, size),
+                             RowGroup<T, W>(destination, k, size));
             }
             else
                 return group(x, matrix, rhs, destination, k, size);
         };
-        for (int32 left = x.count; left > 0; left -= W)
-        {
-            const int32 k = x.count - left;
-            const int32 size = left < W ? left : W;
-            if (size >= leastGroup && solveGroup(k, size)) continue;
-            for (int32 n = k; n < k + size; ++n)
-                one(matrix.object(n), x.pivotsOf(n), rhs.object(n), destination.object(n));
-        }
+        static_cast<void>(forGroups(x.count, W, leastGroup, solveGroup, [&](int32 n) ZEPM_INLINED {
+            one(matrix.object(n), x.pivotsOf(n), rhs.object(n), destination.object(n));
+            return stsOk;
+        }));
     }
     else
     {
@@ -308,9 +279,9 @@ ZEPM_INLINE void solveShared(const X& x, const Matrix& matrix, const Rhs& rhs, c
 {
     const int32 order = x.widthHeight;
     SharedFactors<T, W> shared;
-    forOrder(order, [&]<int N>() { shared.template read<N>(matrix.object(0), x.pivots.object(0, N)); });
-    const auto group = forOrder(order, []<int N>() {
-        if constexpr (isContiguous<Rhs>)
+    forWrittenOrder(order, [&]<int N>() { shared.template read<N>(matrix.object(0), x.pivots.object(0, N)); });
+    const auto group = forWrittenOrder(order, []<int N>() {
+        if constexpr (hasContiguousRows<Rhs>)
             return &solveSharedRows<T, N, W>;
         else
             return &solveSharedElements<T, N, W, X, Rhs, Destination>;
@@ -319,8 +290,8 @@ ZEPM_INLINE void solveShared(const X& x, const Matrix& matrix, const Rhs& rhs, c
     {
         const int32 k = x.count - left;
         const int32 size = left < W ? left : W;
-        if constexpr (isContiguous<Rhs>)
-            group(shared, Group<const T, W>(rhs, k, size), Group<T, W>(destination, k, size));
+        if constexpr (hasContiguousRows<Rhs>)
+            group(shared, RowGroup<const T, W>(rhs, k, size), RowGroup<T, W>(destination, k, size));
         else
             group(shared, x, rhs, destination, k, size);
     }
@@ -333,7 +304,7 @@ template <class T, int K, class Matrix, class Rhs, class Destination>
 struct Systems
 {
     Matrix f[K];
-    PivotObject<const int32> pivots[K];
+    DenseObject<const int32> pivots[K];
     Rhs b[K];
     Destination x[K];
     int32 row[K];
@@ -420,7 +391,7 @@ ZEPM_INLINE void solveLooping(const X& x, const Matrix& matrix, const Rhs& rhs, 
 {
     constexpr int K = 4;
     int32 k = 0;
-    if constexpr (isContiguous<Matrix> && decltype(x.dst)::isArray)
+    if constexpr (hasContiguousRows<Matrix> && decltype(x.dst)::isArray)
         for (; x.count - k >= K; k += K) solveTogether<T, K>(x, matrix, rhs, destination, k);
     for (; k < x.count; ++k) solveTogether<T, 1>(x, matrix, rhs, destination, k);
 }
@@ -437,7 +408,7 @@ Status substitute(const X& x)
     const auto rhs = x.rhs.template view<Contiguous>(n);
     const auto destination = x.dst.template view<Contiguous>(n);
     if (x.count == 0) return stsOk; // a thread's empty share: its matrix may lie anywhere
-    if (n < 3 || n > largestWrittenOut)
+    if (!writtenOrders.have(n))
         solveLooping<T>(x, matrix, rhs, destination);
     else if constexpr (!X::sharesMatrix)
         solveSeparate<T>(x, matrix, rhs, destination);
