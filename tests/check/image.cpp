@@ -143,6 +143,8 @@ void Image::place(int rows_, int cols_, int count_, Strides strides, Placement p
 
     roiShift = (3 + 2 * number) * sz;
     const size_t entries = slots.size();
+    if (entries * sizeof *table > static_cast<size_t>(tableArena->end() - tableArena->begin()))
+        tableArena = std::make_shared<Arena>(entries * sizeof *table);
     table = reinterpret_cast<const void**>(tableArena->end()) - entries;
     for (size_t n = 0; n < entries; ++n) table[n] = base + slots[n] - roiShift;
 }

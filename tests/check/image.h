@@ -30,6 +30,28 @@ enum class Strides
     FarElements    // elements 2 GiB apart
 };
 
+constexpr const char* nameOf(Strides strides)
+{
+    switch (strides)
+    {
+    case Strides::Dense: return "dense";
+    case Strides::Gapped: return "gapped";
+    case Strides::Records: return "records";
+    case Strides::General: return "general";
+    case Strides::ColumnMajor: return "column-major";
+    case Strides::Across: return "across";
+    case Strides::OneGeneral: return "one general";
+    case Strides::FirstGapped: return "first gapped";
+    case Strides::SecondGapped: return "second gapped";
+    case Strides::ThirdGapped: return "third gapped";
+    case Strides::ObjectsGapped: return "objects gapped";
+    case Strides::Far: return "far";
+    case Strides::FarGeneral: return "far general";
+    case Strides::FarElements: return "far elements";
+    }
+    return "";
+}
+
 inline bool isFar(Strides strides)
 {
     return strides == Strides::Far || strides == Strides::FarGeneral || strides == Strides::FarElements;

@@ -36,13 +36,6 @@ T element(std::mt19937& random, bool mayBeNan)
     return sign * std::ldexp(fraction, static_cast<int>(random() % 40) - 20);
 }
 
-const char* nameOf(Strides strides)
-{
-    constexpr const char* names[] = {"dense",  "gapped",      "records", "general",     "column-major",
-                                     "across", "one general", "far",     "far general", "far elements"};
-    return names[static_cast<int>(strides)];
-}
-
 } // namespace
 
 std::string Case::describe() const
