@@ -6,6 +6,7 @@
 #include "tests/check/memory.h"
 
 #include <memory>
+#include <span>
 
 namespace check
 {
@@ -97,8 +98,7 @@ public:
     std::vector<NamedArg> args() const;
 
     // The bytes from a little before the first to a little behind the last element.
-    std::vector<char> bytes() const { return {spanBegin, spanEnd}; }
-    const char* bytesBegin() const { return spanBegin; }
+    std::span<char> bytes() const { return {spanBegin, spanEnd}; }
     size_t spanOffset(const char* p) const { return static_cast<size_t>(p - spanBegin); }
     // Under the address sanitizer: all bytes of the span but the elements.
     void forbidGaps() const;
@@ -116,6 +116,7 @@ private:
     ptrdiff_t offset(int k, int i, int j) const;
     void chooseStrides(Strides strides);
     void chooseSlots(Strides strides);
+    void findGaps();
 
     const Layout layout;
     const ptrdiff_t sz;
@@ -128,6 +129,7 @@ private:
     char* base = nullptr;
     char *spanBegin = nullptr, *spanEnd = nullptr;
     const void** table = nullptr;
+    std::vector<std::pair<const char*, size_t>> gaps; // where they can be forbidden
 };
 
 } // namespace check

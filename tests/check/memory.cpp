@@ -63,6 +63,8 @@ void onFault(void (*report)())
 #endif
 }
 
+const bool canForbid = CHECK_POISONS;
+
 #if CHECK_POISONS
 void forbid(const char* p, size_t n) { ASAN_POISON_MEMORY_REGION(p, n); }
 void allow(const char* p, size_t n) { ASAN_UNPOISON_MEMORY_REGION(p, n); }
