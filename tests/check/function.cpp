@@ -94,10 +94,16 @@ Function parsed(const std::string& name)
     return f;
 }
 
-std::vector<Function> rows(std::vector<Function> named, Function (*completed)(Function))
+std::vector<Function> rows(std::initializer_list<Named> names, Function (*completed)(Function))
 {
-    std::transform(named.begin(), named.end(), named.begin(), completed);
-    return named;
+    std::vector<Function> functions;
+    for (const Named& name : names)
+    {
+        Function f = parsed(name.name);
+        f.exported = name;
+        functions.push_back(completed(f));
+    }
+    return functions;
 }
 
 std::string standardOrder(const Function& f)

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <type_traits>
@@ -123,15 +124,24 @@ Parameter pass(const Arg& arg)
         return std::get<int32>(arg);
 }
 
-using Call = std::function<Status(const std::vector<Arg>&)>;
+// An exported function as a table of rows has it: plain data, of which the compiler makes many in no time.
+struct Named
+{
+    const char* name;
+    void (*function)();
+    Status (*caller)(void (*function)(), const std::vector<Arg>&);
+    size_t parameterCount;
+};
 
 template <class... Parameter>
-Call callOf(Status (*function)(Parameter...))
+Named named(const char* name, Status (*function)(Parameter...))
 {
-    return [function](const std::vector<Arg>& args) {
-        return [&]<size_t... N>(std::index_sequence<N...>) { return function(pass<Parameter>(args.at(N))...); }
+    auto caller = [](void (*untyped)(), const std::vector<Arg>& args) {
+        const auto typed = reinterpret_cast<Status (*)(Parameter...)>(untyped);
+        return [&]<size_t... N>(std::index_sequence<N...>) { return typed(pass<Parameter>(args.at(N))...); }
         (std::index_sequence_for<Parameter...>{});
     };
+    return {name, reinterpret_cast<void (*)()>(function), caller, sizeof...(Parameter)};
 }
 
 struct Limits
@@ -144,8 +154,7 @@ struct Function
     std::string name, operation, form;
     bool isFloat32 = true;
     Layout layout = Layout::S;
-    Call call;
-    size_t parameterCount = 0;
+    Named exported{};
 
     std::vector<Operand> operands;  // in the order of the arguments
     std::vector<std::string> items; // the argument list: operands, sizes and "count" by name
@@ -168,26 +177,18 @@ struct Function
     bool worksInPlace = false; // the destination may be any source of its shape
     bool nansAlike = false;    // sums of several terms: which of two NaNs survives is not fixed
 
+    Status call(const std::vector<Arg>& args) const { return exported.caller(exported.function, args); }
     bool isArray() const;
     bool hasTables() const; // of elements
     bool hasDriver() const { return limits.general > 0; }
 };
 
-// Operation, form, type and layouts from the name, and the operands of the form's letters.
+// Operation, form, type and layouts from the name, and the operands of the form's letters. Throws where a part of the
+// name is unknown.
 Function parsed(const std::string& name);
 
-// The same with the call; throws where the family's name has a part that is unknown.
-template <class... Parameter>
-Function described(const std::string& name, Status (*function)(Parameter...))
-{
-    Function f = parsed(name);
-    f.call = callOf(function);
-    f.parameterCount = sizeof...(Parameter);
-    return f;
-}
-
 // All names of a form: of single objects, of arrays.
-#define CHECK_NAME(name) check::described(#name, name)
+#define CHECK_NAME(name) check::named(#name, name)
 #define SINGLE_FORM(form)                                                                                              \
     CHECK_NAME(form##_32f), CHECK_NAME(form##_32f_P), CHECK_NAME(form##_64f), CHECK_NAME(form##_64f_P)
 #define ARRAY_FORM(form)                                                                                               \
@@ -197,7 +198,7 @@ Function described(const std::string& name, Status (*function)(Parameter...))
 // ---- What families have in common -----------------------------------------------------------------------------------
 
 // The rows of a family from its names.
-std::vector<Function> rows(std::vector<Function> named, Function (*completed)(Function));
+std::vector<Function> rows(std::initializer_list<Named> names, Function (*completed)(Function));
 
 // Pointers, the count, sizes, strides, shifts, as far as the layout has them.
 std::string standardOrder(const Function& f);

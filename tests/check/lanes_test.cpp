@@ -319,7 +319,7 @@ TEST_P(Lane, Validation)
         if (!takes(chosen, false)) continue;
         trial.prepare(chosen);
         const std::vector<NamedArg> valid = trial.args();
-        ASSERT_EQ(valid.size(), function.parameterCount);
+        ASSERT_EQ(valid.size(), function.exported.parameterCount);
         const std::vector<Violation> violations = violationsOf(function, valid);
         for (const Violation& first : violations)
         {
