@@ -1,13 +1,16 @@
 // What the test driver knows of an exported function: how it is called, and what it must do.
 //
-// A family joins by making one Function for each exported name (see vectors.cpp). The name's grammar gives the operands
-// and the argument list; the family adds the order of validation, the limits and a plain reference.
+// A family joins by a line in families.h and by a source with one Function for each exported name (see vectors.cpp).
+// The name's grammar gives the operands and the argument list; the family adds the order of validation, the limits and
+// a plain reference.
 #pragma once
 
 #include "zepm.h"
 
+#include <cstdint>
 #include <functional>
-#include <random>
+#include <initializer_list>
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <variant>
@@ -23,8 +26,8 @@ enum class Layout
     P
 };
 
-// How an operand lies in memory: in the layout of the function, or, whatever the layout, without gaps behind a pointer
-// of its own: elements, row numbers (int32), or room whose contents after the call do not matter.
+// How an operand lies in memory: in its layout, or, whatever the layout, without gaps behind a pointer of its own:
+// elements, row numbers (int32), or room whose contents after the call do not matter.
 enum class Storage
 {
     Laid,
@@ -40,14 +43,20 @@ struct Operand
     bool isArray;
     bool isDst;
     Storage storage = Storage::Laid;
+    std::optional<Layout> layout = {}; // where it is not the function's
+
+    bool isNumber() const { return letter == 'c' && !isArray; } // passed by value
 };
+
+using Sizes = std::vector<int>; // in the order of the arguments
 
 // The elements of one operand by value, rows and columns as stored.
 template <class T>
 struct Tensor
 {
     int count = 1, rows = 1, cols = 1;
-    std::vector<T> elements;
+    std::vector<T> elements = {};
+    std::vector<const void*> addresses = {}; // where the first element of each object lies, for sums that depend on it
 
     T& at(int k, int i, int j) { return elements[index(k, i, j)]; }
     const T& at(int k, int i, int j) const { return elements[index(k, i, j)]; }
@@ -67,18 +76,39 @@ private:
 template <class T>
 struct Problem
 {
-    std::vector<int> sizes;
+    Sizes sizes;
     int count = 1;
     std::vector<Tensor<T>> operands;
     Status status = stsOk; // what the call returns
     bool mayFail = false;  // whether the values may hold an object that fails
-    bool isPacked = false; // every stride2 is the element size
+    bool isPacked = false; // no operand is a table of elements, and every stride2 is the element size
+};
+
+// Random 32-bit numbers. A case has its own seed and few elements: the standard engines of this quality take longer to
+// seed than a case to run.
+class Random
+{
+public:
+    using result_type = uint32_t;
+    explicit Random(uint64_t seed) : state(seed) {}
+    static constexpr result_type min() { return 0; }
+    static constexpr result_type max() { return UINT32_MAX; }
+    result_type operator()() // splitmix64
+    {
+        uint64_t x = state += 0x9e3779b97f4a7c15;
+        x = (x ^ (x >> 30)) * 0xbf58476d1ce4e5b9;
+        x = (x ^ (x >> 27)) * 0x94d049bb133111eb;
+        return static_cast<result_type>(x >> 32);
+    }
+
+private:
+    uint64_t state;
 };
 
 template <class T>
 using Reference = std::function<void(Problem<T>&)>;
 template <class T>
-using Values = std::function<void(Problem<T>&, std::mt19937&)>;
+using Values = std::function<void(Problem<T>&, Random&)>;
 
 // An argument as it is passed.
 using Arg = std::variant<const void*, int32, double>;
@@ -94,15 +124,24 @@ Parameter pass(const Arg& arg)
         return std::get<int32>(arg);
 }
 
-using Call = std::function<Status(const std::vector<Arg>&)>;
+// An exported function as a table of rows has it: plain data, of which the compiler makes many in no time.
+struct Named
+{
+    const char* name;
+    void (*function)();
+    Status (*caller)(void (*function)(), const std::vector<Arg>&);
+    size_t parameterCount;
+};
 
 template <class... Parameter>
-Call callOf(Status (*function)(Parameter...))
+Named named(const char* name, Status (*function)(Parameter...))
 {
-    return [function](const std::vector<Arg>& args) {
-        return [&]<size_t... N>(std::index_sequence<N...>) { return function(pass<Parameter>(args.at(N))...); }
+    auto caller = [](void (*untyped)(), const std::vector<Arg>& args) {
+        const auto typed = reinterpret_cast<Status (*)(Parameter...)>(untyped);
+        return [&]<size_t... N>(std::index_sequence<N...>) { return typed(pass<Parameter>(args.at(N))...); }
         (std::index_sequence_for<Parameter...>{});
     };
+    return {name, reinterpret_cast<void (*)()>(function), caller, sizeof...(Parameter)};
 }
 
 struct Limits
@@ -115,20 +154,22 @@ struct Function
     std::string name, operation, form;
     bool isFloat32 = true;
     Layout layout = Layout::S;
-    Call call;
-    size_t parameterCount = 0;
+    Named exported{};
 
     std::vector<Operand> operands;  // in the order of the arguments
     std::vector<std::string> items; // the argument list: operands, sizes and "count" by name
+
     std::vector<std::string> sizeNames;
-    std::vector<std::vector<int>> sizesToTry;
-    std::function<std::pair<int, int>(const Operand&, const std::vector<int>&)> shape; // rows and columns as stored
-    std::function<bool(const std::vector<int>&)> sizesMatch;                           // where validation has a step M
+    std::vector<Sizes> sizesToTry;
+    Sizes written, looped; // sizes with code of their own, and sizes that a loop serves
+    Sizes typical;         // for lanes that take one alone; rows and columns differ where they may
+    std::function<std::pair<int, int>(const Operand&, const Sizes&)> shape; // rows and columns as stored
+    std::function<bool(const Sizes&)> sizesMatch;                           // where validation has a step M
 
     std::string order;                 // steps of validation: N C Z M T R
     std::vector<std::string> untested; // strides and shifts that validation leaves out, by argument name
     Limits limits;
-    std::function<int32(const std::vector<int>&, int32)> estimate; // of the sizes and the count
+    std::function<int32(const Sizes&, int32)> estimate; // of the sizes and the count
 
     std::variant<std::monostate, Reference<float32>, Reference<float64>> reference;
     // Instead of values over many orders of magnitude in the sources, where the family needs others.
@@ -136,36 +177,55 @@ struct Function
     bool worksInPlace = false; // the destination may be any source of its shape
     bool nansAlike = false;    // sums of several terms: which of two NaNs survives is not fixed
 
-    bool isArray() const
-    {
-        for (const Operand& operand : operands)
-            if (operand.isArray) return true;
-        return false;
-    }
+    Status call(const std::vector<Arg>& args) const { return exported.caller(exported.function, args); }
+    bool isArray() const;
+    bool hasTables() const; // of elements
     bool hasDriver() const { return limits.general > 0; }
 };
 
-// Operation, form, type and layout from the name, and the operands of the form's letters.
+// Operation, form, type and layouts from the name, and the operands of the form's letters. Throws where a part of the
+// name is unknown.
 Function parsed(const std::string& name);
 
-template <class... Parameter>
-Function described(const std::string& name, Status (*function)(Parameter...))
+// All names of a form: of single objects, of arrays.
+#define CHECK_NAME(name) check::named(#name, name)
+#define SINGLE_FORM(form)                                                                                              \
+    CHECK_NAME(form##_32f), CHECK_NAME(form##_32f_P), CHECK_NAME(form##_64f), CHECK_NAME(form##_64f_P)
+#define ARRAY_FORM(form)                                                                                               \
+    CHECK_NAME(form##_32f), CHECK_NAME(form##_32f_L), CHECK_NAME(form##_32f_P), CHECK_NAME(form##_64f),                \
+        CHECK_NAME(form##_64f_L), CHECK_NAME(form##_64f_P)
+
+// ---- What families have in common -----------------------------------------------------------------------------------
+
+// The rows of a family from its names.
+std::vector<Function> rows(std::initializer_list<Named> names, Function (*completed)(Function));
+
+// Pointers, the count, sizes, strides, shifts, as far as the layout has them.
+std::string standardOrder(const Function& f);
+
+// All operands, the sizes, the count.
+std::vector<std::string> standardItems(const Function& f);
+
+// A size for each of the numbers.
+std::vector<Sizes> lengths(std::initializer_list<int> list);
+
+// Calls serve with a zero of the function's element type.
+template <class Serve>
+void forElementType(const Function& f, Serve serve)
 {
-    Function f = parsed(name);
-    f.call = callOf(function);
-    f.parameterCount = sizeof...(Parameter);
-    return f;
+    f.isFloat32 ? serve(float32{}) : serve(float64{});
 }
 
-// Every exported function that takes arguments.
-const std::vector<Function>& allFunctions();
+// ---- The families ---------------------------------------------------------------------------------------------------
 
-// The families' rows.
-std::vector<Function> vectorFunctions();
-std::vector<Function> matrixFunctions();
-std::vector<Function> productFunctions();
-std::vector<Function> solverFunctions();
-std::vector<Function> symmetricFunctions();
-std::vector<Function> geometryFunctions();
+namespace families
+{
+#define FAMILY(name) std::vector<Function> name();
+#include "tests/check/families.h"
+#undef FAMILY
+} // namespace families
+
+// Every exported function that takes arguments. Throws where a family has left something out.
+const std::vector<Function>& allFunctions();
 
 } // namespace check

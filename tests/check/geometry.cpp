@@ -3,6 +3,7 @@
 
 #include <cfloat>
 #include <cmath>
+#include <random>
 
 namespace check
 {
@@ -30,7 +31,7 @@ void transformHomogeneous(Problem<float32>& problem)
 }
 
 // Points in front of the viewer; where some may fail, x alone makes w, now and then zero or as small as can be.
-void chooseHomogeneous(Problem<float32>& problem, std::mt19937& random)
+void chooseHomogeneous(Problem<float32>& problem, Random& random)
 {
     std::uniform_real_distribution<float32> positive(0.25f, 4), any(-4, 4);
     Tensor<float32>& m = problem.operands[0];
@@ -50,12 +51,12 @@ Function completed(Function f)
     f.operands.back().letter = 'v';
     f.items = {"src1", "src2", "dst", "count"};
     f.sizesToTry.assign(9, {}); // of fixed size: other elements each time
-    f.shape = [](const Operand& operand, const std::vector<int>&) {
+    f.shape = [](const Operand& operand, const Sizes&) {
         return operand.letter == 'm' ? std::pair(4, 4) : std::pair(1, 3);
     };
     f.order = "NCT";
     f.limits = {785, 785};
-    f.estimate = [](const std::vector<int>&, int32 count) { return 6 * count; };
+    f.estimate = [](const Sizes&, int32 count) { return 6 * count; };
     f.reference = Reference<float32>(transformHomogeneous);
     f.values = Values<float32>(chooseHomogeneous);
     f.worksInPlace = true;
@@ -64,9 +65,6 @@ Function completed(Function f)
 
 } // namespace
 
-std::vector<Function> geometryFunctions()
-{
-    return {completed(described("zepmAffineTransform3DH_mva_32f", zepmAffineTransform3DH_mva_32f))};
-}
+std::vector<Function> families::geometry() { return rows({CHECK_NAME(zepmAffineTransform3DH_mva_32f)}, completed); }
 
 } // namespace check

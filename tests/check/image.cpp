@@ -1,6 +1,8 @@
 #include "tests/check/image.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <limits>
 
 namespace check
@@ -15,6 +17,22 @@ constexpr ptrdiff_t margin = 64;
 
 // A stride just short of 2 GiB.
 ptrdiff_t farStride(ptrdiff_t sz) { return std::numeric_limits<int32>::max() / sz * sz; }
+
+// Bytes that repeat after 256, none like its neighbours.
+void fillWithPattern(char* begin, char* end, int start)
+{
+    static const std::array<char, 8192> pattern = [] {
+        std::array<char, 8192> bytes{};
+        for (size_t n = 0; n < bytes.size(); ++n) bytes[n] = static_cast<char>(n * 37);
+        return bytes;
+    }();
+    const size_t shift = static_cast<size_t>(start) * 173 % 256; // 37 * 173 = 1 modulo 256
+    for (size_t n = 0; begin < end; begin += n)
+    {
+        n = std::min(static_cast<size_t>(end - begin), pattern.size() - 256);
+        std::memcpy(begin, pattern.data() + shift, n);
+    }
+}
 
 } // namespace
 
@@ -138,11 +156,17 @@ void Image::place(int rows_, int cols_, int count_, Strides strides, Placement p
     base = placement.atEnd ? arena->end() - extent - placement.offset : arena->begin() + placement.offset;
     spanBegin = base - std::min(margin, base - arena->begin());
     spanEnd = base + std::min(static_cast<ptrdiff_t>(extent) + margin, arena->end() - base);
+    gaps.clear();
     if (!isFar(strides))
-        for (char* p = spanBegin; p < spanEnd; ++p) *p = static_cast<char>((p - spanBegin) * 37 + 11 * number + 5);
+    {
+        fillWithPattern(spanBegin, spanEnd, 11 * number + 5);
+        if (canForbid) findGaps();
+    }
 
     roiShift = (3 + 2 * number) * sz;
     const size_t entries = slots.size();
+    if (entries * sizeof *table > static_cast<size_t>(tableArena->end() - tableArena->begin()))
+        tableArena = std::make_shared<Arena>(entries * sizeof *table);
     table = reinterpret_cast<const void**>(tableArena->end()) - entries;
     for (size_t n = 0; n < entries; ++n) table[n] = base + slots[n] - roiShift;
 }
@@ -156,6 +180,7 @@ void Image::placeAt(const Image& other)
     base = other.base, spanBegin = other.spanBegin, spanEnd = other.spanEnd;
     table = other.table;
     tableArena = other.tableArena;
+    gaps.clear(); // the other's
 }
 
 std::vector<NamedArg> Image::args() const
@@ -182,7 +207,7 @@ std::vector<NamedArg> Image::args() const
     return list;
 }
 
-void Image::forbidGaps() const
+void Image::findGaps()
 {
     std::vector<const char*> elements;
     for (int k = 0; k < count; ++k)
@@ -192,13 +217,21 @@ void Image::forbidGaps() const
     const char* from = spanBegin;
     for (const char* const p : elements)
     {
-        if (p > from) forbid(from, static_cast<size_t>(p - from));
+        if (p > from) gaps.emplace_back(from, static_cast<size_t>(p - from));
         from = p + sz;
     }
-    if (spanEnd > from) forbid(from, static_cast<size_t>(spanEnd - from));
+    if (spanEnd > from) gaps.emplace_back(from, static_cast<size_t>(spanEnd - from));
 }
 
-void Image::allowGaps() const { allow(spanBegin, static_cast<size_t>(spanEnd - spanBegin)); }
+void Image::forbidGaps() const
+{
+    for (const auto& [p, n] : gaps) forbid(p, n);
+}
+
+void Image::allowGaps() const
+{
+    if (!gaps.empty()) allow(spanBegin, static_cast<size_t>(spanEnd - spanBegin));
+}
 
 std::string Image::describe(size_t at) const
 {

@@ -6,6 +6,7 @@
 #include "tests/check/memory.h"
 
 #include <memory>
+#include <span>
 
 namespace check
 {
@@ -29,6 +30,28 @@ enum class Strides
     FarGeneral,    // the same, with gaps between elements
     FarElements    // elements 2 GiB apart
 };
+
+constexpr const char* nameOf(Strides strides)
+{
+    switch (strides)
+    {
+    case Strides::Dense: return "dense";
+    case Strides::Gapped: return "gapped";
+    case Strides::Records: return "records";
+    case Strides::General: return "general";
+    case Strides::ColumnMajor: return "column-major";
+    case Strides::Across: return "across";
+    case Strides::OneGeneral: return "one general";
+    case Strides::FirstGapped: return "first gapped";
+    case Strides::SecondGapped: return "second gapped";
+    case Strides::ThirdGapped: return "third gapped";
+    case Strides::ObjectsGapped: return "objects gapped";
+    case Strides::Far: return "far";
+    case Strides::FarGeneral: return "far general";
+    case Strides::FarElements: return "far elements";
+    }
+    return "";
+}
 
 inline bool isFar(Strides strides)
 {
@@ -75,8 +98,7 @@ public:
     std::vector<NamedArg> args() const;
 
     // The bytes from a little before the first to a little behind the last element.
-    std::vector<char> bytes() const { return {spanBegin, spanEnd}; }
-    const char* bytesBegin() const { return spanBegin; }
+    std::span<char> bytes() const { return {spanBegin, spanEnd}; }
     size_t spanOffset(const char* p) const { return static_cast<size_t>(p - spanBegin); }
     // Under the address sanitizer: all bytes of the span but the elements.
     void forbidGaps() const;
@@ -94,6 +116,7 @@ private:
     ptrdiff_t offset(int k, int i, int j) const;
     void chooseStrides(Strides strides);
     void chooseSlots(Strides strides);
+    void findGaps();
 
     const Layout layout;
     const ptrdiff_t sz;
@@ -106,6 +129,7 @@ private:
     char* base = nullptr;
     char *spanBegin = nullptr, *spanEnd = nullptr;
     const void** table = nullptr;
+    std::vector<std::pair<const char*, size_t>> gaps; // where they can be forbidden
 };
 
 } // namespace check

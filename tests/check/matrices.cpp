@@ -45,88 +45,47 @@ const std::set<std::string> stridesFirst = {"zepmAdd_mam_32f", "zepmAdd_mam_64f"
 
 Function completed(Function f)
 {
-    for (const Operand& operand : f.operands) f.items.push_back(operand.name);
-    f.items.insert(f.items.end(), {"width", "height"});
-    if (f.isArray()) f.items.push_back("count");
     f.sizeNames = {"width", "height"};
+    f.items = standardItems(f);
     f.sizesToTry = {{3, 3}, {1, 1}, {4, 4}, {5, 3}, {1, 7}, {7, 1},  {5, 5}, {3, 5},
                     {6, 6}, {4, 3}, {6, 4}, {8, 2}, {9, 7}, {17, 5}, {5, 18}};
-    f.shape = [](const Operand& operand, const std::vector<int>& sizes) {
+    f.written = {4, 4};
+    f.looped = {6, 6};
+    f.typical = {5, 3};
+    f.shape = [](const Operand& operand, const Sizes& sizes) {
         if (operand.letter == 'c') return std::pair(1, 1);
         return operand.letter == 't' ? std::pair(sizes[0], sizes[1]) : std::pair(sizes[1], sizes[0]);
     };
-    if (!f.isArray())
+    f.order = stridesFirst.count(f.name) ? "NCTZ" : standardOrder(f);
+    if (f.isArray())
     {
-        f.order = f.layout == Layout::S ? "NZT" : "NZR";
-    }
-    else
-    {
-        f.order = stridesFirst.count(f.name) ? "NCTZ" : f.layout == Layout::S ? "NCZT" : "NCZTR";
         f.limits = limitsOf(f);
         int32 fixed = 0, arrays = 0;
         for (const Operand& operand : f.operands)
             if (operand.letter != 'c') ++(operand.isArray ? arrays : fixed);
-        f.estimate = [=](const std::vector<int>& sizes, int32 count) {
-            return sizes[0] * sizes[1] * (arrays * count + fixed);
-        };
+        f.estimate = [=](const Sizes& sizes, int32 count) { return sizes[0] * sizes[1] * (arrays * count + fixed); };
     }
-    if (f.isFloat32)
-        f.reference = reference<float32>(f);
-    else
-        f.reference = reference<float64>(f);
+    forElementType(f, [&]<class T>(T) { f.reference = Reference<T>(reference<T>(f)); });
     f.worksInPlace = true;
     return f;
 }
 
-#define ROW(name) completed(described(#name, name))
-
 } // namespace
 
-std::vector<Function> matrixFunctions()
+std::vector<Function> families::matrices()
 {
-    return {
-        ROW(zepmAdd_mm_32f),     ROW(zepmAdd_mm_32f_P),   ROW(zepmAdd_mm_64f),     ROW(zepmAdd_mm_64f_P),
-        ROW(zepmAdd_tm_32f),     ROW(zepmAdd_tm_32f_P),   ROW(zepmAdd_tm_64f),     ROW(zepmAdd_tm_64f_P),
-        ROW(zepmAdd_tt_32f),     ROW(zepmAdd_tt_32f_P),   ROW(zepmAdd_tt_64f),     ROW(zepmAdd_tt_64f_P),
-        ROW(zepmAdd_mam_32f),    ROW(zepmAdd_mam_32f_L),  ROW(zepmAdd_mam_32f_P),  ROW(zepmAdd_mam_64f),
-        ROW(zepmAdd_mam_64f_L),  ROW(zepmAdd_mam_64f_P),  ROW(zepmAdd_mat_32f),    ROW(zepmAdd_mat_32f_L),
-        ROW(zepmAdd_mat_32f_P),  ROW(zepmAdd_mat_64f),    ROW(zepmAdd_mat_64f_L),  ROW(zepmAdd_mat_64f_P),
-        ROW(zepmAdd_tam_32f),    ROW(zepmAdd_tam_32f_L),  ROW(zepmAdd_tam_32f_P),  ROW(zepmAdd_tam_64f),
-        ROW(zepmAdd_tam_64f_L),  ROW(zepmAdd_tam_64f_P),  ROW(zepmAdd_tat_32f),    ROW(zepmAdd_tat_32f_L),
-        ROW(zepmAdd_tat_32f_P),  ROW(zepmAdd_tat_64f),    ROW(zepmAdd_tat_64f_L),  ROW(zepmAdd_tat_64f_P),
-        ROW(zepmAdd_mama_32f),   ROW(zepmAdd_mama_32f_L), ROW(zepmAdd_mama_32f_P), ROW(zepmAdd_mama_64f),
-        ROW(zepmAdd_mama_64f_L), ROW(zepmAdd_mama_64f_P), ROW(zepmAdd_tama_32f),   ROW(zepmAdd_tama_32f_L),
-        ROW(zepmAdd_tama_32f_P), ROW(zepmAdd_tama_64f),   ROW(zepmAdd_tama_64f_L), ROW(zepmAdd_tama_64f_P),
-        ROW(zepmAdd_tata_32f),   ROW(zepmAdd_tata_32f_L), ROW(zepmAdd_tata_32f_P), ROW(zepmAdd_tata_64f),
-        ROW(zepmAdd_tata_64f_L), ROW(zepmAdd_tata_64f_P), ROW(zepmSub_mm_32f),     ROW(zepmSub_mm_32f_P),
-        ROW(zepmSub_mm_64f),     ROW(zepmSub_mm_64f_P),   ROW(zepmSub_mt_32f),     ROW(zepmSub_mt_32f_P),
-        ROW(zepmSub_mt_64f),     ROW(zepmSub_mt_64f_P),   ROW(zepmSub_tm_32f),     ROW(zepmSub_tm_32f_P),
-        ROW(zepmSub_tm_64f),     ROW(zepmSub_tm_64f_P),   ROW(zepmSub_tt_32f),     ROW(zepmSub_tt_32f_P),
-        ROW(zepmSub_tt_64f),     ROW(zepmSub_tt_64f_P),   ROW(zepmSub_mam_32f),    ROW(zepmSub_mam_32f_L),
-        ROW(zepmSub_mam_32f_P),  ROW(zepmSub_mam_64f),    ROW(zepmSub_mam_64f_L),  ROW(zepmSub_mam_64f_P),
-        ROW(zepmSub_mat_32f),    ROW(zepmSub_mat_32f_L),  ROW(zepmSub_mat_32f_P),  ROW(zepmSub_mat_64f),
-        ROW(zepmSub_mat_64f_L),  ROW(zepmSub_mat_64f_P),  ROW(zepmSub_tam_32f),    ROW(zepmSub_tam_32f_L),
-        ROW(zepmSub_tam_32f_P),  ROW(zepmSub_tam_64f),    ROW(zepmSub_tam_64f_L),  ROW(zepmSub_tam_64f_P),
-        ROW(zepmSub_tat_32f),    ROW(zepmSub_tat_32f_L),  ROW(zepmSub_tat_32f_P),  ROW(zepmSub_tat_64f),
-        ROW(zepmSub_tat_64f_L),  ROW(zepmSub_tat_64f_P),  ROW(zepmSub_mma_32f),    ROW(zepmSub_mma_32f_L),
-        ROW(zepmSub_mma_32f_P),  ROW(zepmSub_mma_64f),    ROW(zepmSub_mma_64f_L),  ROW(zepmSub_mma_64f_P),
-        ROW(zepmSub_mta_32f),    ROW(zepmSub_mta_32f_L),  ROW(zepmSub_mta_32f_P),  ROW(zepmSub_mta_64f),
-        ROW(zepmSub_mta_64f_L),  ROW(zepmSub_mta_64f_P),  ROW(zepmSub_tma_32f),    ROW(zepmSub_tma_32f_L),
-        ROW(zepmSub_tma_32f_P),  ROW(zepmSub_tma_64f),    ROW(zepmSub_tma_64f_L),  ROW(zepmSub_tma_64f_P),
-        ROW(zepmSub_tta_32f),    ROW(zepmSub_tta_32f_L),  ROW(zepmSub_tta_32f_P),  ROW(zepmSub_tta_64f),
-        ROW(zepmSub_tta_64f_L),  ROW(zepmSub_tta_64f_P),  ROW(zepmSub_mama_32f),   ROW(zepmSub_mama_32f_L),
-        ROW(zepmSub_mama_32f_P), ROW(zepmSub_mama_64f),   ROW(zepmSub_mama_64f_L), ROW(zepmSub_mama_64f_P),
-        ROW(zepmSub_mata_32f),   ROW(zepmSub_mata_32f_L), ROW(zepmSub_mata_32f_P), ROW(zepmSub_mata_64f),
-        ROW(zepmSub_mata_64f_L), ROW(zepmSub_mata_64f_P), ROW(zepmSub_tama_32f),   ROW(zepmSub_tama_32f_L),
-        ROW(zepmSub_tama_32f_P), ROW(zepmSub_tama_64f),   ROW(zepmSub_tama_64f_L), ROW(zepmSub_tama_64f_P),
-        ROW(zepmSub_tata_32f),   ROW(zepmSub_tata_32f_L), ROW(zepmSub_tata_32f_P), ROW(zepmSub_tata_64f),
-        ROW(zepmSub_tata_64f_L), ROW(zepmSub_tata_64f_P), ROW(zepmMul_mc_32f),     ROW(zepmMul_mc_32f_P),
-        ROW(zepmMul_mc_64f),     ROW(zepmMul_mc_64f_P),   ROW(zepmMul_tc_32f),     ROW(zepmMul_tc_32f_P),
-        ROW(zepmMul_tc_64f),     ROW(zepmMul_tc_64f_P),   ROW(zepmMul_mac_32f),    ROW(zepmMul_mac_32f_L),
-        ROW(zepmMul_mac_32f_P),  ROW(zepmMul_mac_64f),    ROW(zepmMul_mac_64f_L),  ROW(zepmMul_mac_64f_P),
-        ROW(zepmMul_tac_32f),    ROW(zepmMul_tac_32f_L),  ROW(zepmMul_tac_32f_P),  ROW(zepmMul_tac_64f),
-        ROW(zepmMul_tac_64f_L),  ROW(zepmMul_tac_64f_P),
-    };
+    return rows(
+        {
+            SINGLE_FORM(zepmAdd_mm),  SINGLE_FORM(zepmAdd_tm),  SINGLE_FORM(zepmAdd_tt),  ARRAY_FORM(zepmAdd_mam),
+            ARRAY_FORM(zepmAdd_mat),  ARRAY_FORM(zepmAdd_tam),  ARRAY_FORM(zepmAdd_tat),  ARRAY_FORM(zepmAdd_mama),
+            ARRAY_FORM(zepmAdd_tama), ARRAY_FORM(zepmAdd_tata), SINGLE_FORM(zepmSub_mm),  SINGLE_FORM(zepmSub_mt),
+            SINGLE_FORM(zepmSub_tm),  SINGLE_FORM(zepmSub_tt),  ARRAY_FORM(zepmSub_mam),  ARRAY_FORM(zepmSub_mat),
+            ARRAY_FORM(zepmSub_tam),  ARRAY_FORM(zepmSub_tat),  ARRAY_FORM(zepmSub_mma),  ARRAY_FORM(zepmSub_mta),
+            ARRAY_FORM(zepmSub_tma),  ARRAY_FORM(zepmSub_tta),  ARRAY_FORM(zepmSub_mama), ARRAY_FORM(zepmSub_mata),
+            ARRAY_FORM(zepmSub_tama), ARRAY_FORM(zepmSub_tata), SINGLE_FORM(zepmMul_mc),  SINGLE_FORM(zepmMul_tc),
+            ARRAY_FORM(zepmMul_mac),  ARRAY_FORM(zepmMul_tac),
+        },
+        completed);
 }
 
 } // namespace check

@@ -27,14 +27,14 @@ struct Form
 Form formOf(const Function& f) { return {f.operands[0].letter == 't', f.operands[1].letter == 't'}; }
 
 // The sizes are src1Width, src1Height, src2Width, src2Height.
-std::vector<int> sizesOf(Form form, Shape shape)
+Sizes sizesOf(Form form, Shape shape)
 {
-    std::vector<int> sizes{shape.inner, shape.rows, shape.cols, shape.inner};
+    Sizes sizes{shape.inner, shape.rows, shape.cols, shape.inner};
     if (form.transposes1) std::swap(sizes[0], sizes[1]);
     if (form.transposes2) std::swap(sizes[2], sizes[3]);
     return sizes;
 }
-Shape shapeOf(Form form, std::vector<int> sizes)
+Shape shapeOf(Form form, Sizes sizes)
 {
     if (form.transposes1) std::swap(sizes[0], sizes[1]);
     if (form.transposes2) std::swap(sizes[2], sizes[3]);
@@ -59,7 +59,7 @@ Orders ordersOf(const std::map<std::string, Orders>& exceptions, const std::stri
 }
 
 // The two that take sizes of 1 to 3 whose bitwise or is 3 for order 3.
-bool takesForOrder3(const std::string& name, const std::vector<int>& sizes)
+bool takesForOrder3(const std::string& name, const Sizes& sizes)
 {
     return (name == "zepmMul_mm_32f_P" || name == "zepmMul_tt_64f_P") &&
            (sizes[0] | sizes[1] | sizes[2] | sizes[3]) == 3;
@@ -88,7 +88,7 @@ void multiply(const Function& f, Problem<T>& problem)
     const Form form = formOf(f);
     Shape shape = shapeOf(form, problem.sizes);
     if (takesForOrder3(f.name, problem.sizes)) shape = {3, 3, 3};
-    const bool isPacked = problem.isPacked && f.layout != Layout::P;
+    const bool isPacked = problem.isPacked;
     const Orders orders = ordersOf(isPacked ? packedOrders : generalOrders, f.name);
     const bool hasBody = shape.rows == shape.inner && shape.cols == shape.inner &&
                          std::count(orders.begin(), orders.end(), shape.inner) > 0;
@@ -119,7 +119,7 @@ void multiply(const Function& f, Problem<T>& problem)
 
 // Besides values with specials among them: finite ones whose sums depend on their order, and products that are all -0.
 template <class T>
-void choose(Problem<T>& problem, std::mt19937& random)
+void choose(Problem<T>& problem, Random& random)
 {
     const unsigned kind = random() % 4;
     if (kind == 0) return;
@@ -140,7 +140,6 @@ Function completed(Function f)
     f.items = {"src1", "src1Width", "src1Height", "src2", "src2Width", "src2Height", "dst"};
     if (f.isArray()) f.items.push_back("count");
     f.sizeNames = {"src1Width", "src1Height", "src2Width", "src2Height"};
-    // The third and the ninth serve the comparison of levels and threads, the fourth the far objects.
     for (const Shape shape : {Shape{1, 1, 1},
                               {2, 2, 2},
                               {4, 4, 4},
@@ -157,14 +156,17 @@ Function completed(Function f)
                               {10, 9, 3},
                               {3, 6, 38}})
         f.sizesToTry.push_back(sizesOf(form, shape));
-    f.shape = [form, name = f.name](const Operand& operand, const std::vector<int>& sizes) {
+    f.written = sizesOf(form, {4, 4, 4});
+    f.looped = sizesOf(form, {6, 5, 7});
+    f.typical = sizesOf(form, {3, 3, 3});
+    f.shape = [form, name = f.name](const Operand& operand, const Sizes& sizes) {
         if (takesForOrder3(name, sizes)) return std::pair(3, 3);
         if (operand.name == "src1") return std::pair(sizes[1], sizes[0]);
         if (operand.name == "src2") return std::pair(sizes[3], sizes[2]);
         const Shape shape = shapeOf(form, sizes);
         return std::pair(shape.rows, shape.cols);
     };
-    f.sizesMatch = [form](const std::vector<int>& sizes) {
+    f.sizesMatch = [form](const Sizes& sizes) {
         return sizes[form.transposes1 ? 1 : 0] == sizes[form.transposes2 ? 2 : 3];
     };
     f.order = f.isArray() ? "NCZM" : "NZM";
@@ -174,58 +176,46 @@ Function completed(Function f)
     {
         f.limits.packed = f.layout == Layout::P ? 1441 : f.layout == Layout::S && f.isFloat32 ? 2501 : 3601;
         f.limits.general = 1441;
-        f.estimate = [form, isArray1 = f.operands[0].isArray,
-                      isArray2 = f.operands[1].isArray](const std::vector<int>& sizes, int32 count) {
+        f.estimate = [form, isArray1 = f.operands[0].isArray, isArray2 = f.operands[1].isArray](const Sizes& sizes,
+                                                                                                int32 count) {
             const Shape shape = shapeOf(form, sizes);
             return sizes[0] * sizes[1] * (isArray1 ? count : 1) + sizes[2] * sizes[3] * (isArray2 ? count : 1) +
                    shape.rows * shape.cols * count;
         };
     }
     const auto self = std::make_shared<Function>(f);
-    if (f.isFloat32)
-    {
-        f.reference = Reference<float32>([self](Problem<float32>& problem) { multiply(*self, problem); });
-        f.values = Values<float32>(choose<float32>);
-    }
-    else
-    {
-        f.reference = Reference<float64>([self](Problem<float64>& problem) { multiply(*self, problem); });
-        f.values = Values<float64>(choose<float64>);
-    }
+    forElementType(f, [&]<class T>(T) {
+        f.reference = Reference<T>([self](Problem<T>& problem) { multiply(*self, problem); });
+        f.values = Values<T>(choose<T>);
+    });
     f.nansAlike = true;
     return f;
 }
 
-#define ROW(name) completed(described(#name, name))
-
 } // namespace
 
-std::vector<Function> productFunctions()
+std::vector<Function> families::products()
 {
-    return {
-        ROW(zepmMul_mm_32f),     ROW(zepmMul_mm_32f_P),   ROW(zepmMul_mm_64f),     ROW(zepmMul_mm_64f_P),
-        ROW(zepmMul_mt_32f),     ROW(zepmMul_mt_32f_P),   ROW(zepmMul_mt_64f),     ROW(zepmMul_mt_64f_P),
-        ROW(zepmMul_tm_32f),     ROW(zepmMul_tm_32f_P),   ROW(zepmMul_tm_64f),     ROW(zepmMul_tm_64f_P),
-        ROW(zepmMul_tt_32f),     ROW(zepmMul_tt_32f_P),   ROW(zepmMul_tt_64f),     ROW(zepmMul_tt_64f_P),
-        ROW(zepmMul_mam_32f),    ROW(zepmMul_mam_32f_L),  ROW(zepmMul_mam_32f_P),  ROW(zepmMul_mam_64f),
-        ROW(zepmMul_mam_64f_L),  ROW(zepmMul_mam_64f_P),  ROW(zepmMul_mat_32f),    ROW(zepmMul_mat_32f_L),
-        ROW(zepmMul_mat_32f_P),  ROW(zepmMul_mat_64f),    ROW(zepmMul_mat_64f_L),  ROW(zepmMul_mat_64f_P),
-        ROW(zepmMul_tam_32f),    ROW(zepmMul_tam_32f_L),  ROW(zepmMul_tam_32f_P),  ROW(zepmMul_tam_64f),
-        ROW(zepmMul_tam_64f_L),  ROW(zepmMul_tam_64f_P),  ROW(zepmMul_tat_32f),    ROW(zepmMul_tat_32f_L),
-        ROW(zepmMul_tat_32f_P),  ROW(zepmMul_tat_64f),    ROW(zepmMul_tat_64f_L),  ROW(zepmMul_tat_64f_P),
-        ROW(zepmMul_mma_32f),    ROW(zepmMul_mma_32f_L),  ROW(zepmMul_mma_32f_P),  ROW(zepmMul_mma_64f),
-        ROW(zepmMul_mma_64f_L),  ROW(zepmMul_mma_64f_P),  ROW(zepmMul_mta_32f),    ROW(zepmMul_mta_32f_L),
-        ROW(zepmMul_mta_32f_P),  ROW(zepmMul_mta_64f),    ROW(zepmMul_mta_64f_L),  ROW(zepmMul_mta_64f_P),
-        ROW(zepmMul_tma_32f),    ROW(zepmMul_tma_32f_L),  ROW(zepmMul_tma_32f_P),  ROW(zepmMul_tma_64f),
-        ROW(zepmMul_tma_64f_L),  ROW(zepmMul_tma_64f_P),  ROW(zepmMul_tta_32f),    ROW(zepmMul_tta_32f_L),
-        ROW(zepmMul_tta_32f_P),  ROW(zepmMul_tta_64f),    ROW(zepmMul_tta_64f_L),  ROW(zepmMul_tta_64f_P),
-        ROW(zepmMul_mama_32f),   ROW(zepmMul_mama_32f_L), ROW(zepmMul_mama_32f_P), ROW(zepmMul_mama_64f),
-        ROW(zepmMul_mama_64f_L), ROW(zepmMul_mama_64f_P), ROW(zepmMul_mata_32f),   ROW(zepmMul_mata_32f_L),
-        ROW(zepmMul_mata_32f_P), ROW(zepmMul_mata_64f),   ROW(zepmMul_mata_64f_L), ROW(zepmMul_mata_64f_P),
-        ROW(zepmMul_tama_32f),   ROW(zepmMul_tama_32f_L), ROW(zepmMul_tama_32f_P), ROW(zepmMul_tama_64f),
-        ROW(zepmMul_tama_64f_L), ROW(zepmMul_tama_64f_P), ROW(zepmMul_tata_32f),   ROW(zepmMul_tata_32f_L),
-        ROW(zepmMul_tata_32f_P), ROW(zepmMul_tata_64f),   ROW(zepmMul_tata_64f_L), ROW(zepmMul_tata_64f_P),
-    };
+    return rows(
+        {
+            SINGLE_FORM(zepmMul_mm),
+            SINGLE_FORM(zepmMul_mt),
+            SINGLE_FORM(zepmMul_tm),
+            SINGLE_FORM(zepmMul_tt),
+            ARRAY_FORM(zepmMul_mam),
+            ARRAY_FORM(zepmMul_mat),
+            ARRAY_FORM(zepmMul_tam),
+            ARRAY_FORM(zepmMul_tat),
+            ARRAY_FORM(zepmMul_mma),
+            ARRAY_FORM(zepmMul_mta),
+            ARRAY_FORM(zepmMul_tma),
+            ARRAY_FORM(zepmMul_tta),
+            ARRAY_FORM(zepmMul_mama),
+            ARRAY_FORM(zepmMul_mata),
+            ARRAY_FORM(zepmMul_tama),
+            ARRAY_FORM(zepmMul_tata),
+        },
+        completed);
 }
 
 } // namespace check

@@ -2,6 +2,7 @@
 
 #include "frame/operands.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -19,7 +20,7 @@ namespace
 // Values over many orders of magnitude, with the special ones among them. Only one operand of a call holds a NaN, so
 // that which of two NaNs survives is no question.
 template <class T>
-T element(std::mt19937& random, bool mayBeNan)
+T element(Random& random, bool mayBeNan)
 {
     const unsigned kind = random() % 64;
     const T sign = random() % 2 ? T(1) : T(-1);
@@ -34,13 +35,6 @@ T element(std::mt19937& random, bool mayBeNan)
     }
     const T fraction = T(1) + T(random()) / T(4294967296.0);
     return sign * std::ldexp(fraction, static_cast<int>(random() % 40) - 20);
-}
-
-const char* nameOf(Strides strides)
-{
-    constexpr const char* names[] = {"dense",  "gapped",      "records", "general",     "column-major",
-                                     "across", "one general", "far",     "far general", "far elements"};
-    return names[static_cast<int>(strides)];
 }
 
 } // namespace
@@ -63,7 +57,9 @@ std::string Case::describe() const
 Trial::Trial(const Function& function_) : function(function_)
 {
     for (const Operand& operand : function.operands)
-        images.emplace_back(operand, function.layout, function.isFloat32 ? 4 : 8, static_cast<int>(images.size()));
+        images.emplace_back(operand, operand.layout.value_or(function.layout), function.isFloat32 ? 4 : 8,
+                            static_cast<int>(images.size()));
+    numbers.resize(images.size());
 }
 
 namespace
@@ -89,68 +85,78 @@ void write(const Operand& operand, char* p, T x)
 template <class T>
 void Trial::fill(const Case& chosen)
 {
-    std::mt19937 random(chosen.seed);
+    Random random(chosen.seed);
     Problem<T> problem{chosen.sizes, chosen.count, {}, stsOk, chosen.mayFail, isPacked()};
-    auto forEach = [&](auto visit) {
-        for (size_t n = 0; n < images.size(); ++n)
-        {
-            Tensor<T>& tensor = problem.operands[n];
-            for (int k = 0; k < tensor.count; ++k)
-                for (int i = 0; i < tensor.rows; ++i)
-                    for (int j = 0; j < tensor.cols; ++j) visit(n, images[n].element(k, i, j), tensor.at(k, i, j));
-        }
+    auto forEach = [&](size_t n, auto visit) {
+        Tensor<T>& tensor = problem.operands[n];
+        size_t at = 0;
+        for (int k = 0; k < tensor.count; ++k)
+            for (int i = 0; i < tensor.rows; ++i)
+                for (int j = 0; j < tensor.cols; ++j) visit(images[n].element(k, i, j), tensor.elements[at++]);
+    };
+    auto isSource = [&](size_t n) {
+        return !function.operands[n].isDst && function.operands[n].storage != Storage::Scratch;
     };
     for (size_t n = 0; n < images.size(); ++n)
     {
         const Operand& operand = function.operands[n];
         const auto [rows, cols] = function.shape(operand, chosen.sizes);
-        Tensor<T>& tensor = problem.operands.emplace_back();
-        tensor = {operand.isArray ? chosen.count : 1, rows, cols, {}};
+        Tensor<T>& tensor = problem.operands.emplace_back(Tensor<T>{operand.isArray ? chosen.count : 1, rows, cols});
         tensor.elements.resize(static_cast<size_t>(tensor.count) * static_cast<size_t>(rows * cols));
-        if (!operand.isDst && operand.storage != Storage::Scratch)
+        for (int k = 0; k < tensor.count && !operand.isNumber(); ++k)
+            tensor.addresses.push_back(images[n].element(k, 0, 0));
+        if (isSource(n))
             for (T& x : tensor.elements) x = element<T>(random, n == 0);
     }
     if (const auto* const values = std::get_if<Values<T>>(&function.values)) (*values)(problem, random);
-    forEach([&](size_t n, char* p, T& x) {
+    for (size_t n = 0; n < images.size(); ++n)
+    {
         const Operand& operand = function.operands[n];
-        if (operand.letter == 'c' && !operand.isArray)
-            constant = static_cast<double>(x);
-        else if (!operand.isDst && operand.storage != Storage::Scratch)
-            write(operand, p, x);
-    });
-    // A row number that is not written keeps its bytes, which as a value they would not.
-    forEach([&](size_t n, char* p, T& x) {
-        if (function.operands[n].isDst && !isFar)
-        {
-            if (function.operands[n].storage == Storage::Index)
-                x = std::numeric_limits<T>::quiet_NaN();
-            else
-                std::memcpy(&x, p, sizeof x);
-        }
-    });
+        if (operand.isNumber())
+            numbers[n] = static_cast<double>(problem.operands[n].elements[0]);
+        else if (isSource(n))
+            forEach(n, [&](char* p, T& x) { write(operand, p, x); });
+    }
+    for (size_t n = 0; n < images.size() && !isFar; ++n)
+    {
+        const Operand& operand = function.operands[n];
+        if (!operand.isDst) continue;
+        // A row number that is not written keeps its bytes, which as a value they would not.
+        if (operand.storage == Storage::Index)
+            problem.operands[n].elements.assign(problem.operands[n].elements.size(),
+                                                std::numeric_limits<T>::quiet_NaN());
+        else
+            forEach(n, [](char* p, T& x) { std::memcpy(&x, p, sizeof x); });
+    }
     std::get<Reference<T>>(function.reference)(problem);
     wantedStatus = problem.status;
-    expected.assign(images.size(), {});
-    forEach([&](size_t n, char* p, T& x) {
+    expected.resize(images.size());
+    for (size_t n = 0; n < images.size(); ++n)
+    {
         const Operand& operand = function.operands[n];
-        if (!operand.isDst) return;
-        std::vector<char>& bytes = expected[n];
-        bytes.resize(bytes.size() + images[n].elementSize());
-        char* const to = bytes.data() + bytes.size() - images[n].elementSize();
-        if (operand.storage == Storage::Index && std::isnan(x))
-            std::memcpy(to, p, images[n].elementSize());
-        else
-            write(operand, to, x);
-    });
+        if (!operand.isDst) continue;
+        const size_t sz = images[n].elementSize();
+        expected[n].resize(problem.operands[n].elements.size() * sz);
+        char* to = expected[n].data();
+        forEach(n, [&](char* p, T& x) {
+            if (operand.storage == Storage::Index && std::isnan(x))
+                std::memcpy(to, p, sz);
+            else
+                write(operand, to, x);
+            to += sz;
+        });
+    }
 }
 
 void Trial::prepare(const Case& chosen)
 {
     count = chosen.count;
     sizes = chosen.sizes;
+    inPlace = chosen.inPlace;
     isFar = check::isFar(chosen.strides);
     for (size_t n = 0; n < images.size(); ++n)
     {
+        if (function.operands[n].isNumber()) continue;
         const auto [rows, cols] = function.shape(function.operands[n], chosen.sizes);
         Placement placement = chosen.placement;
         if (!placement.atEnd && placement.offset > 0) placement.offset = (placement.offset + offsetStep * n) % 16;
@@ -163,8 +169,24 @@ void Trial::prepare(const Case& chosen)
         fill<float32>(chosen);
     else
         fill<float64>(chosen);
-    before.clear();
-    for (const Image& image : images) before.push_back(isFar ? std::vector<char>() : image.bytes());
+    if (isFar) return;
+    before.resize(images.size());
+    for (size_t n = 0; n < images.size(); ++n)
+    {
+        const auto bytes = images[n].bytes();
+        before[n].assign(bytes.begin(), bytes.end());
+    }
+    wanted = before;
+    forEachResult([&](size_t n, int k, int i, int j, const char* from, size_t sz) {
+        std::memcpy(wanted[n].data() + images[n].spanOffset(images[n].element(k, i, j)), from, sz);
+    });
+}
+
+void Trial::restore()
+{
+    for (size_t n = 0; n < images.size() && !isFar; ++n)
+        if (function.operands[n].isDst || function.operands[n].storage == Storage::Scratch)
+            std::copy(before[n].begin(), before[n].end(), images[n].bytes().begin());
 }
 
 std::vector<NamedArg> Trial::args() const
@@ -173,15 +195,15 @@ std::vector<NamedArg> Trial::args() const
     for (const std::string& item : function.items)
     {
         bool isOperand = false;
-        for (const Image& image : images)
-            if (image.operand.name == item)
-            {
-                isOperand = true;
-                if (image.operand.letter == 'c' && !image.operand.isArray)
-                    list.push_back({NamedArg::Value, "val", constant});
-                else
-                    for (NamedArg& arg : image.args()) list.push_back(arg);
-            }
+        for (size_t n = 0; n < images.size(); ++n)
+        {
+            if (images[n].operand.name != item) continue;
+            isOperand = true;
+            if (images[n].operand.isNumber())
+                list.push_back({NamedArg::Value, item, numbers[n]});
+            else
+                for (NamedArg& arg : images[n].args()) list.push_back(arg);
+        }
         if (isOperand) continue;
         if (item == "count")
         {
@@ -196,6 +218,7 @@ std::vector<NamedArg> Trial::args() const
 
 bool Trial::isPacked() const
 {
+    if (function.hasTables()) return false;
     for (const Image& image : images)
         for (const NamedArg& arg : image.args())
             if (arg.name == image.operand.name + "Stride2" &&
@@ -221,28 +244,6 @@ Status Trial::call(const std::vector<Arg>& args) const
     return status;
 }
 
-std::string Trial::differenceFrom(const std::vector<std::vector<char>>& wanted) const
-{
-    for (size_t n = 0; n < images.size(); ++n)
-    {
-        const std::vector<char> now = images[n].bytes();
-        for (size_t at = 0; at < now.size(); ++at)
-            if (now[at] != wanted[n][at]) return images[n].operand.name + ": " + images[n].describe(at) + " differs";
-    }
-    return "";
-}
-
-namespace
-{
-
-bool isNan(const char* p, size_t sz)
-{
-    if (sz == sizeof(float32)) return std::isnan(zepm::load<float32>(p));
-    return std::isnan(zepm::load<float64>(p));
-}
-
-} // namespace
-
 // Calls visit with the number of the operand, the object, row and column, and the expected bytes of each result.
 template <class Visit>
 void Trial::forEachResult(Visit visit) const
@@ -259,49 +260,77 @@ void Trial::forEachResult(Visit visit) const
     }
 }
 
-std::string Trial::difference() const
+// Whether the destination of the case lies in this source.
+bool Trial::isAlias(size_t n) const { return static_cast<int>(n) == inPlace; }
+
+// Whether a result is as it must be; of NaNs the bytes may differ where the function leaves them open.
+bool Trial::isAlike(size_t n, const char* p, const char* from) const
 {
-    std::vector<std::vector<char>> wanted = before;
-    forEachResult([&](size_t n, int k, int i, int j, const char* from, size_t sz) {
-        const char* const p = images[n].element(k, i, j);
-        const bool isAlike =
-            function.nansAlike && function.operands[n].storage != Storage::Index && isNan(p, sz) && isNan(from, sz);
-        for (size_t image = 0; image < images.size(); ++image) // in place, a source shows the results as well
-            if (image == n || images[image].bytesBegin() == images[n].bytesBegin())
-                std::memcpy(wanted[image].data() + images[image].spanOffset(p), isAlike ? p : from, sz);
-    });
-    for (size_t n = 0; n < images.size(); ++n)
-    {
-        if (function.operands[n].storage != Storage::Scratch) continue;
-        const auto [rows, cols] = function.shape(function.operands[n], sizes);
-        const char* const p = images[n].element(0, 0, 0);
-        std::memcpy(wanted[n].data() + images[n].spanOffset(p), p,
-                    static_cast<size_t>(rows * cols) * images[n].elementSize());
-    }
-    return differenceFrom(wanted);
+    const size_t sz = images[n].elementSize();
+    if (std::memcmp(p, from, sz) == 0) return true;
+    if (!function.nansAlike || function.operands[n].storage == Storage::Index) return false;
+    if (sz == sizeof(float32)) return std::isnan(zepm::load<float32>(p)) && std::isnan(zepm::load<float32>(from));
+    return std::isnan(zepm::load<float64>(p)) && std::isnan(zepm::load<float64>(from));
 }
 
-std::string Trial::change() const { return differenceFrom(before); }
+namespace
+{
+
+std::string firstDifference(const Image& image, const std::vector<char>& wanted)
+{
+    const std::span<const char> now = image.bytes();
+    if (now.empty()) return ""; // passed by value
+    if (std::memcmp(now.data(), wanted.data(), wanted.size()) == 0) return "";
+    const auto at = static_cast<size_t>(std::mismatch(now.begin(), now.end(), wanted.begin()).first - now.begin());
+    return image.operand.name + ": " + image.describe(at) + " differs";
+}
+
+} // namespace
+
+std::string Trial::difference() const
+{
+    for (size_t n = 0; n < images.size(); ++n)
+    {
+        const Image& image = images[n];
+        if (isAlias(n)) continue;
+        if (firstDifference(image, wanted[n]).empty()) continue;
+        // What may differ is made equal.
+        std::vector<char> allowed = wanted[n];
+        if (image.operand.storage == Storage::Scratch)
+        {
+            const auto [rows, cols] = function.shape(image.operand, sizes);
+            const char* const p = image.element(0, 0, 0);
+            std::memcpy(allowed.data() + image.spanOffset(p), p,
+                        static_cast<size_t>(rows * cols) * image.elementSize());
+        }
+        forEachResult([&](size_t of, int k, int i, int j, const char* from, size_t sz) {
+            if (of != n) return;
+            const char* const p = image.element(k, i, j);
+            if (isAlike(n, p, from)) std::memcpy(allowed.data() + image.spanOffset(p), p, sz);
+        });
+        const std::string difference = firstDifference(image, allowed);
+        if (!difference.empty()) return difference;
+    }
+    return "";
+}
+
+std::string Trial::change() const
+{
+    for (size_t n = 0; n < images.size(); ++n)
+        if (const std::string difference = firstDifference(images[n], before[n]); !difference.empty())
+            return difference;
+    return "";
+}
 
 std::string Trial::differenceOfElements() const
 {
     std::string difference;
-    forEachResult([&](size_t n, int k, int i, int j, const char* from, size_t sz) {
-        const char* const p = images[n].element(k, i, j);
-        const bool isAlike = function.nansAlike && isNan(p, sz) && isNan(from, sz);
-        if (difference.empty() && !isAlike && std::memcmp(p, from, sz) != 0)
+    forEachResult([&](size_t n, int k, int i, int j, const char* from, size_t) {
+        if (difference.empty() && !isAlike(n, images[n].element(k, i, j), from))
             difference = images[n].operand.name + ": object " + std::to_string(k) + " element (" + std::to_string(i) +
                          ", " + std::to_string(j) + ") differs";
     });
     return difference;
-}
-
-std::vector<std::vector<char>> Trial::outputs() const
-{
-    std::vector<std::vector<char>> list;
-    for (size_t n = 0; n < images.size(); ++n)
-        if (function.operands[n].isDst) list.push_back(images[n].bytes());
-    return list;
 }
 
 } // namespace check

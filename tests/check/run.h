@@ -4,15 +4,13 @@
 
 #include "tests/check/image.h"
 
-#include <random>
-
 namespace check
 {
 
 // What is chosen of a case; the seed chooses the elements.
 struct Case
 {
-    std::vector<int> sizes;
+    Sizes sizes;
     int count = 1;
     Strides strides = Strides::Dense;
     Placement placement;
@@ -32,13 +30,15 @@ public:
 
     explicit Trial(const Function& function);
 
-    // Places and fills the operands.
+    // Places and fills the operands, for any number of calls.
     void prepare(const Case& chosen);
     std::vector<NamedArg> args() const;
     static std::vector<Arg> values(const std::vector<NamedArg>& args);
 
     // Calls the function on the prepared operands. The gaps are out of bounds during the call.
     Status call(const std::vector<Arg>& args) const;
+    // Puts the destinations back to what they were before a call.
+    void restore();
 
     // What the call must return.
     Status expectedStatus() const { return wantedStatus; }
@@ -46,8 +46,6 @@ public:
     std::string difference() const;
     // After a call that validation must refuse: the same, nothing written.
     std::string change() const;
-    // All bytes of the destinations, for comparison with another run.
-    std::vector<std::vector<char>> outputs() const;
     // The elements alone, where too many bytes lie between them.
     std::string differenceOfElements() const;
 
@@ -59,20 +57,25 @@ private:
     void fill(const Case& chosen);
     template <class Visit>
     void forEachResult(Visit visit) const;
-    std::string differenceFrom(const std::vector<std::vector<char>>& expected) const;
+    bool isAlias(size_t n) const;
+    bool isAlike(size_t n, const char* p, const char* wanted) const;
 
     std::vector<Image> images;
-    std::vector<std::vector<char>> before;
+    std::vector<double> numbers;             // the value passed for each operand that is one
+    std::vector<std::vector<char>> before;   // all bytes of each operand before the call
+    std::vector<std::vector<char>> wanted;   // and after it
     std::vector<std::vector<char>> expected; // the destinations' elements in order
     int32 count = 1;
-    std::vector<int> sizes;
-    double constant = 0; // the value passed for a c operand
+    Sizes sizes;
     Status wantedStatus = stsOk;
     bool isFar = false;
+    int inPlace = -1;
 };
 
 // How many threads ownGetNumThreads answers, and how often it was asked.
 extern int32 threadsToUse;
 extern int threadsAsked;
+// What zepGetMaxCacheSizeB answers.
+constexpr int32 largestCache = 1 << 23;
 
 } // namespace check

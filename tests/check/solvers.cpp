@@ -73,7 +73,7 @@ void factorAll(Problem<T>& problem)
 // Matrices of all kinds: small integers, which tie and cancel; columns of different magnitudes; pivots on either side
 // of the tolerances; some with a NaN or an infinity. Those that fail stay only where they may.
 template <class T>
-void matrices(Problem<T>& problem, std::mt19937& random)
+void matrices(Problem<T>& problem, Random& random)
 {
     Tensor<T>& a = problem.operands[0];
     const int n = a.rows;
@@ -160,7 +160,7 @@ void solveAll(Problem<T>& problem, bool sharesMatrix)
 
 // Factors and right-hand sides as they come; permutations, now and then with a row twice.
 template <class T>
-void systems(Problem<T>& problem, std::mt19937& random)
+void systems(Problem<T>& problem, Random& random)
 {
     Tensor<T>& index = problem.operands[1];
     std::vector<int> rows(static_cast<size_t>(index.cols));
@@ -187,25 +187,26 @@ Function completed(Function f)
         f.operands[0].name = "src";
     }
     f.operands.insert(f.operands.begin() + 1, index);
-    for (const Operand& operand : f.operands) f.items.push_back(operand.name);
     f.sizeNames = {"widthHeight"};
-    f.items.push_back("widthHeight");
-    if (f.isArray()) f.items.push_back("count");
-    for (const int n : {1, 2, 3, 4, 5, 6, 7, 8, 10, 17}) f.sizesToTry.push_back({n});
-    f.shape = [](const Operand& operand, const std::vector<int>& sizes) {
+    f.items = standardItems(f);
+    f.sizesToTry = lengths({1, 2, 3, 4, 5, 6, 7, 8, 10, 17});
+    f.written = {3};
+    f.looped = {10};
+    f.typical = {4};
+    f.shape = [](const Operand& operand, const Sizes& sizes) {
         return std::pair(operand.letter == 'm' ? sizes[0] : 1, sizes[0]);
     };
-    f.order = !f.isArray() ? (f.layout == Layout::S ? "NZT" : "NZR") : f.layout == Layout::S ? "NCZT" : "NCZTR";
+    f.order = standardOrder(f);
     if (f.isArray())
     {
         const int32 limit = isDecomp ? 1001 : sharesMatrix ? 701 : 1201;
         f.limits = {limit, limit};
-        f.estimate = [=](const std::vector<int>& sizes, int32 count) {
+        f.estimate = [=](const Sizes& sizes, int32 count) {
             const int32 n = sizes[0];
             return isDecomp ? n * n * count : sharesMatrix ? (n + 2 * count) * n : (n + 2) * n * count;
         };
     }
-    auto serve = [&]<class T>(T) {
+    forElementType(f, [&]<class T>(T) {
         if (isDecomp)
         {
             f.reference = Reference<T>(factorAll<T>);
@@ -216,30 +217,25 @@ Function completed(Function f)
             f.reference = Reference<T>([=](Problem<T>& problem) { solveAll(problem, sharesMatrix); });
             f.values = Values<T>(systems<T>);
         }
-    };
-    f.isFloat32 ? serve(float32{}) : serve(float64{});
+    });
     f.worksInPlace = isDecomp; // a solution in place: tests/solver
     f.nansAlike = true;
     return f;
 }
 
-#define ROW(name) completed(described(#name, name))
-
 } // namespace
 
-std::vector<Function> solverFunctions()
+std::vector<Function> families::solvers()
 {
-    return {
-        ROW(zepmLUDecomp_m_32f),         ROW(zepmLUDecomp_m_32f_P),       ROW(zepmLUDecomp_m_64f),
-        ROW(zepmLUDecomp_m_64f_P),       ROW(zepmLUDecomp_ma_32f),        ROW(zepmLUDecomp_ma_32f_L),
-        ROW(zepmLUDecomp_ma_32f_P),      ROW(zepmLUDecomp_ma_64f),        ROW(zepmLUDecomp_ma_64f_L),
-        ROW(zepmLUDecomp_ma_64f_P),      ROW(zepmLUBackSubst_mv_32f),     ROW(zepmLUBackSubst_mv_32f_P),
-        ROW(zepmLUBackSubst_mv_64f),     ROW(zepmLUBackSubst_mv_64f_P),   ROW(zepmLUBackSubst_mva_32f),
-        ROW(zepmLUBackSubst_mva_32f_L),  ROW(zepmLUBackSubst_mva_32f_P),  ROW(zepmLUBackSubst_mva_64f),
-        ROW(zepmLUBackSubst_mva_64f_L),  ROW(zepmLUBackSubst_mva_64f_P),  ROW(zepmLUBackSubst_mava_32f),
-        ROW(zepmLUBackSubst_mava_32f_L), ROW(zepmLUBackSubst_mava_32f_P), ROW(zepmLUBackSubst_mava_64f),
-        ROW(zepmLUBackSubst_mava_64f_L), ROW(zepmLUBackSubst_mava_64f_P),
-    };
+    return rows(
+        {
+            SINGLE_FORM(zepmLUDecomp_m),
+            ARRAY_FORM(zepmLUDecomp_ma),
+            SINGLE_FORM(zepmLUBackSubst_mv),
+            ARRAY_FORM(zepmLUBackSubst_mva),
+            ARRAY_FORM(zepmLUBackSubst_mava),
+        },
+        completed);
 }
 
 } // namespace check

@@ -95,7 +95,7 @@ Status solveObject(const Kernel& kernel, Problem<T>& problem, int k)
 
 // A matrix of one of several kinds, near 1 in size, not always symmetric.
 template <class T>
-void chooseMatrix(Tensor<T>& src, int k, std::mt19937& random, bool mayFail)
+void chooseMatrix(Tensor<T>& src, int k, Random& random, bool mayFail)
 {
     const int n = src.rows;
     const unsigned kind = random() % 8;
@@ -118,7 +118,7 @@ void chooseMatrix(Tensor<T>& src, int k, std::mt19937& random, bool mayFail)
 }
 
 template <class T>
-void chooseValues(const Function& f, Problem<T>& problem, std::mt19937& random)
+void chooseValues(const Function& f, Problem<T>& problem, Random& random)
 {
     for (int k = 0; k < problem.count; ++k)
         for (;;)
@@ -146,12 +146,13 @@ Function completed(Function f)
     const Operand buffer{"buffer", 'm', false, false, Storage::Scratch};
     const Operand values{"dstValues", 'v', isArray, true, Storage::Dense};
     f.operands = withVectors ? std::vector{src, buffer, dst, values} : std::vector{src, buffer, values};
-    for (const Operand& operand : f.operands) f.items.push_back(operand.name);
-    f.items.push_back("widthHeight");
-    if (isArray) f.items.push_back("count");
     f.sizeNames = {"widthHeight"};
-    for (const int n : {1, 2, 3, 4, 5, 6, 7, 10, 5}) f.sizesToTry.push_back({n});
-    f.shape = [](const Operand& operand, const std::vector<int>& sizes) {
+    f.items = standardItems(f);
+    f.sizesToTry = lengths({1, 2, 3, 4, 5, 6, 7, 10});
+    f.written = {3};
+    f.looped = {5};
+    f.typical = {4};
+    f.shape = [](const Operand& operand, const Sizes& sizes) {
         return std::pair(operand.letter == 'v' ? 1 : sizes[0], sizes[0]);
     };
     f.order = isArray ? (f.layout == Layout::S ? "NZCT" : "NZCRT") : (f.layout == Layout::S ? "NZT" : "NZR");
@@ -159,42 +160,30 @@ Function completed(Function f)
     {
         const int32 limit = withVectors ? 701 : 1001;
         f.limits = {limit, limit};
-        f.estimate = [withVectors](const std::vector<int>& sizes, int32 count) {
+        f.estimate = [withVectors](const Sizes& sizes, int32 count) {
             const int32 n = sizes[0];
             return ((withVectors ? 2 : 1) * n * n + n) * count;
         };
     }
-    if (f.isFloat32)
-    {
-        f.values = [f](Problem<float32>& problem, std::mt19937& random) { chooseValues(f, problem, random); };
-        f.reference = [f](Problem<float32>& problem) { reference(f, problem); };
-    }
-    else
-    {
-        f.values = [f](Problem<float64>& problem, std::mt19937& random) { chooseValues(f, problem, random); };
-        f.reference = [f](Problem<float64>& problem) { reference(f, problem); };
-    }
+    forElementType(f, [&]<class T>(T) {
+        f.values = Values<T>([f](Problem<T>& problem, Random& random) { chooseValues(f, problem, random); });
+        f.reference = Reference<T>([f](Problem<T>& problem) { reference(f, problem); });
+    });
     return f;
 }
 
-#define ROW(name) completed(described(#name, name))
-
 } // namespace
 
-std::vector<Function> symmetricFunctions()
+std::vector<Function> families::symmetric()
 {
-    return {
-        ROW(zepmEigenValuesSym_m_32f),           ROW(zepmEigenValuesSym_m_32f_P),
-        ROW(zepmEigenValuesSym_m_64f),           ROW(zepmEigenValuesSym_m_64f_P),
-        ROW(zepmEigenValuesSym_ma_32f),          ROW(zepmEigenValuesSym_ma_32f_L),
-        ROW(zepmEigenValuesSym_ma_32f_P),        ROW(zepmEigenValuesSym_ma_64f),
-        ROW(zepmEigenValuesSym_ma_64f_L),        ROW(zepmEigenValuesSym_ma_64f_P),
-        ROW(zepmEigenValuesVectorsSym_m_32f),    ROW(zepmEigenValuesVectorsSym_m_32f_P),
-        ROW(zepmEigenValuesVectorsSym_m_64f),    ROW(zepmEigenValuesVectorsSym_m_64f_P),
-        ROW(zepmEigenValuesVectorsSym_ma_32f),   ROW(zepmEigenValuesVectorsSym_ma_32f_L),
-        ROW(zepmEigenValuesVectorsSym_ma_32f_P), ROW(zepmEigenValuesVectorsSym_ma_64f),
-        ROW(zepmEigenValuesVectorsSym_ma_64f_L), ROW(zepmEigenValuesVectorsSym_ma_64f_P),
-    };
+    return rows(
+        {
+            SINGLE_FORM(zepmEigenValuesSym_m),
+            ARRAY_FORM(zepmEigenValuesSym_ma),
+            SINGLE_FORM(zepmEigenValuesVectorsSym_m),
+            ARRAY_FORM(zepmEigenValuesVectorsSym_ma),
+        },
+        completed);
 }
 
 } // namespace check

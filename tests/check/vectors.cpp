@@ -33,27 +33,18 @@ std::function<void(Problem<T>&)> reference(const std::string& operation, bool co
     return [=](Problem<T>& problem) { combine<std::minus<T>>(problem, constantFirst); };
 }
 
-struct Form
-{
-    const char *orderS, *orderL, *orderP;
-    int32 (*estimate)(int32 len, int32 count);
-};
+using Estimate = int32 (*)(int32 len, int32 count);
 
-const Form single{"NZT", "", "NZR", nullptr};
-
-const std::map<std::string, Form> forms = {
-    {"vv", single},
-    {"vc", single},
-    {"cv", single},
-    {"vac", {"NCZT", "NCZTR", "NCZTR", [](int32 len, int32 count) { return 2 * len * count + len; }}},
-    {"cva", {"NCZT", "NCZTR", "NCZTR", [](int32, int32 count) { return 2 * count; }}},
-    {"vaca", {"NCZT", "NCZTR", "NCZTR", [](int32 len, int32 count) { return (2 * len + 1) * count; }}},
-    {"cava", {"NCZT", "NCZTR", "NCZTR", [](int32 len, int32 count) { return (2 * len + 1) * count; }}},
-    {"vca", {"NCZT", "NCZTR", "NCZTR", [](int32 len, int32 count) { return len * (count + 1) + count; }}},
-    {"cav", {"NCZT", "NCZTR", "NCZTR", [](int32 len, int32 count) { return len * (count + 1) + count; }}},
-    {"vav", {"NZTC", "NZTRC", "NZTCR", [](int32 len, int32 count) { return 2 * len * count + len; }}},
-    {"vva", {"NCZT", "NCZTR", "NCZTR", [](int32 len, int32 count) { return 2 * len * count + len; }}},
-    {"vava", {"NCZT", "NCZTR", "NCZTR", [](int32 len, int32 count) { return 3 * len * count; }}},
+const std::map<std::string, Estimate> estimates = {
+    {"vac", [](int32 len, int32 count) { return 2 * len * count + len; }},
+    {"cva", [](int32, int32 count) { return 2 * count; }},
+    {"vaca", [](int32 len, int32 count) { return (2 * len + 1) * count; }},
+    {"cava", [](int32 len, int32 count) { return (2 * len + 1) * count; }},
+    {"vca", [](int32 len, int32 count) { return len * (count + 1) + count; }},
+    {"cav", [](int32 len, int32 count) { return len * (count + 1) + count; }},
+    {"vav", [](int32 len, int32 count) { return 2 * len * count + len; }},
+    {"vva", [](int32 len, int32 count) { return 2 * len * count + len; }},
+    {"vava", [](int32 len, int32 count) { return 3 * len * count; }},
 };
 
 // 32f and 64f in the layouts S, L, P; of Mul the packed and the general ones.
@@ -84,79 +75,51 @@ const std::map<std::string, Narrowed> narrowed = {
 
 Function completed(Function f)
 {
-    const Form& form = forms.at(f.form);
-    for (const Operand& operand : f.operands) f.items.push_back(operand.name);
-    f.items.push_back("len");
-    if (f.isArray()) f.items.push_back("count");
     f.sizeNames = {"len"};
-    for (const int len : {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 16, 17, 33}) f.sizesToTry.push_back({len});
-    f.shape = [](const Operand& operand, const std::vector<int>& sizes) {
+    f.items = standardItems(f);
+    f.sizesToTry = lengths({1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 16, 17, 33});
+    f.written = {3};
+    f.looped = {9};
+    f.typical = {7};
+    f.shape = [](const Operand& operand, const Sizes& sizes) {
         return std::pair(1, operand.letter == 'c' ? 1 : sizes[0]);
     };
-    f.order = f.layout == Layout::S ? form.orderS : f.layout == Layout::L ? form.orderL : form.orderP;
+    f.order = standardOrder(f);
+    if (f.form == "vav") f.order = f.layout == Layout::S ? "NZTC" : f.layout == Layout::L ? "NZTRC" : "NZTCR";
     if (const auto found = narrowed.find(f.name); found != narrowed.end())
     {
         f.order = found->second.order;
         f.untested = found->second.untested;
     }
-    if (form.estimate)
+    if (f.isArray())
     {
         f.limits = limitsOf(f);
         // Add and Sub count the constant as a vector, Mul does not.
-        const auto estimate = f.operation == "Mul" && f.form == "vac"
-                                  ? [](int32 len, int32 count) { return 2 * len * count; }
-                                  : form.estimate;
-        f.estimate = [estimate](const std::vector<int>& sizes, int32 count) { return estimate(sizes[0], count); };
+        const Estimate estimate = f.operation == "Mul" && f.form == "vac"
+                                      ? [](int32 len, int32 count) { return 2 * len * count; }
+                                      : estimates.at(f.form);
+        f.estimate = [estimate](const Sizes& sizes, int32 count) { return estimate(sizes[0], count); };
     }
     const bool constantFirst = f.form[0] == 'c';
-    if (f.isFloat32)
-        f.reference = reference<float32>(f.operation, constantFirst);
-    else
-        f.reference = reference<float64>(f.operation, constantFirst);
+    forElementType(f, [&]<class T>(T) { f.reference = Reference<T>(reference<T>(f.operation, constantFirst)); });
     f.worksInPlace = true;
     return f;
 }
 
-#define ROW(name) completed(described(#name, name))
-
 } // namespace
 
-std::vector<Function> vectorFunctions()
+std::vector<Function> families::vectors()
 {
-    return {
-        ROW(zepmAdd_vv_32f),     ROW(zepmAdd_vv_32f_P),   ROW(zepmAdd_vv_64f),     ROW(zepmAdd_vv_64f_P),
-        ROW(zepmAdd_vc_32f),     ROW(zepmAdd_vc_32f_P),   ROW(zepmAdd_vc_64f),     ROW(zepmAdd_vc_64f_P),
-        ROW(zepmAdd_vac_32f),    ROW(zepmAdd_vac_32f_L),  ROW(zepmAdd_vac_32f_P),  ROW(zepmAdd_vac_64f),
-        ROW(zepmAdd_vac_64f_L),  ROW(zepmAdd_vac_64f_P),  ROW(zepmAdd_vaca_32f),   ROW(zepmAdd_vaca_32f_L),
-        ROW(zepmAdd_vaca_32f_P), ROW(zepmAdd_vaca_64f),   ROW(zepmAdd_vaca_64f_L), ROW(zepmAdd_vaca_64f_P),
-        ROW(zepmAdd_vav_32f),    ROW(zepmAdd_vav_32f_L),  ROW(zepmAdd_vav_32f_P),  ROW(zepmAdd_vav_64f),
-        ROW(zepmAdd_vav_64f_L),  ROW(zepmAdd_vav_64f_P),  ROW(zepmAdd_vava_32f),   ROW(zepmAdd_vava_32f_L),
-        ROW(zepmAdd_vava_32f_P), ROW(zepmAdd_vava_64f),   ROW(zepmAdd_vava_64f_L), ROW(zepmAdd_vava_64f_P),
-        ROW(zepmAdd_vca_32f),    ROW(zepmAdd_vca_32f_L),  ROW(zepmAdd_vca_32f_P),  ROW(zepmAdd_vca_64f),
-        ROW(zepmAdd_vca_64f_L),  ROW(zepmAdd_vca_64f_P),  ROW(zepmSub_vv_32f),     ROW(zepmSub_vv_32f_P),
-        ROW(zepmSub_vv_64f),     ROW(zepmSub_vv_64f_P),   ROW(zepmSub_vc_32f),     ROW(zepmSub_vc_32f_P),
-        ROW(zepmSub_vc_64f),     ROW(zepmSub_vc_64f_P),   ROW(zepmSub_cv_32f),     ROW(zepmSub_cv_32f_P),
-        ROW(zepmSub_cv_64f),     ROW(zepmSub_cv_64f_P),   ROW(zepmSub_vac_32f),    ROW(zepmSub_vac_32f_L),
-        ROW(zepmSub_vac_32f_P),  ROW(zepmSub_vac_64f),    ROW(zepmSub_vac_64f_L),  ROW(zepmSub_vac_64f_P),
-        ROW(zepmSub_cva_32f),    ROW(zepmSub_cva_32f_L),  ROW(zepmSub_cva_32f_P),  ROW(zepmSub_cva_64f),
-        ROW(zepmSub_cva_64f_L),  ROW(zepmSub_cva_64f_P),  ROW(zepmSub_vaca_32f),   ROW(zepmSub_vaca_32f_L),
-        ROW(zepmSub_vaca_32f_P), ROW(zepmSub_vaca_64f),   ROW(zepmSub_vaca_64f_L), ROW(zepmSub_vaca_64f_P),
-        ROW(zepmSub_cava_32f),   ROW(zepmSub_cava_32f_L), ROW(zepmSub_cava_32f_P), ROW(zepmSub_cava_64f),
-        ROW(zepmSub_cava_64f_L), ROW(zepmSub_cava_64f_P), ROW(zepmSub_vav_32f),    ROW(zepmSub_vav_32f_L),
-        ROW(zepmSub_vav_32f_P),  ROW(zepmSub_vav_64f),    ROW(zepmSub_vav_64f_L),  ROW(zepmSub_vav_64f_P),
-        ROW(zepmSub_vva_32f),    ROW(zepmSub_vva_32f_L),  ROW(zepmSub_vva_32f_P),  ROW(zepmSub_vva_64f),
-        ROW(zepmSub_vva_64f_L),  ROW(zepmSub_vva_64f_P),  ROW(zepmSub_vava_32f),   ROW(zepmSub_vava_32f_L),
-        ROW(zepmSub_vava_32f_P), ROW(zepmSub_vava_64f),   ROW(zepmSub_vava_64f_L), ROW(zepmSub_vava_64f_P),
-        ROW(zepmSub_vca_32f),    ROW(zepmSub_vca_32f_L),  ROW(zepmSub_vca_32f_P),  ROW(zepmSub_vca_64f),
-        ROW(zepmSub_vca_64f_L),  ROW(zepmSub_vca_64f_P),  ROW(zepmSub_cav_32f),    ROW(zepmSub_cav_32f_L),
-        ROW(zepmSub_cav_32f_P),  ROW(zepmSub_cav_64f),    ROW(zepmSub_cav_64f_L),  ROW(zepmSub_cav_64f_P),
-        ROW(zepmMul_vc_32f),     ROW(zepmMul_vc_32f_P),   ROW(zepmMul_vc_64f),     ROW(zepmMul_vc_64f_P),
-        ROW(zepmMul_vac_32f),    ROW(zepmMul_vac_32f_L),  ROW(zepmMul_vac_32f_P),  ROW(zepmMul_vac_64f),
-        ROW(zepmMul_vac_64f_L),  ROW(zepmMul_vac_64f_P),  ROW(zepmMul_vca_32f),    ROW(zepmMul_vca_32f_L),
-        ROW(zepmMul_vca_32f_P),  ROW(zepmMul_vca_64f),    ROW(zepmMul_vca_64f_L),  ROW(zepmMul_vca_64f_P),
-        ROW(zepmMul_vaca_32f),   ROW(zepmMul_vaca_32f_L), ROW(zepmMul_vaca_32f_P), ROW(zepmMul_vaca_64f),
-        ROW(zepmMul_vaca_64f_L), ROW(zepmMul_vaca_64f_P),
-    };
+    return rows(
+        {
+            SINGLE_FORM(zepmAdd_vv),  SINGLE_FORM(zepmAdd_vc),  ARRAY_FORM(zepmAdd_vac),  ARRAY_FORM(zepmAdd_vaca),
+            ARRAY_FORM(zepmAdd_vav),  ARRAY_FORM(zepmAdd_vava), ARRAY_FORM(zepmAdd_vca),  SINGLE_FORM(zepmSub_vv),
+            SINGLE_FORM(zepmSub_vc),  SINGLE_FORM(zepmSub_cv),  ARRAY_FORM(zepmSub_vac),  ARRAY_FORM(zepmSub_cva),
+            ARRAY_FORM(zepmSub_vaca), ARRAY_FORM(zepmSub_cava), ARRAY_FORM(zepmSub_vav),  ARRAY_FORM(zepmSub_vva),
+            ARRAY_FORM(zepmSub_vava), ARRAY_FORM(zepmSub_vca),  ARRAY_FORM(zepmSub_cav),  SINGLE_FORM(zepmMul_vc),
+            ARRAY_FORM(zepmMul_vac),  ARRAY_FORM(zepmMul_vca),  ARRAY_FORM(zepmMul_vaca),
+        },
+        completed);
 }
 
 } // namespace check
