@@ -29,6 +29,7 @@ struct SymmetricValues
         const Work n = widthHeight;
         return ((n * n + n) * count).estimate();
     }
+    ZEPM_INLINE static int32 weight() { return 30; }
     ZEPM_INLINE size_t scratchPerThread() const
     {
         return static_cast<size_t>(widthHeight) * static_cast<size_t>(widthHeight) * sizeof(T);
@@ -63,6 +64,7 @@ struct SymmetricVectors
         const Work n = widthHeight;
         return (n * (Work(2) * n + 1) * count).estimate();
     }
+    ZEPM_INLINE static int32 weight() { return 50; }
     ZEPM_INLINE size_t scratchPerThread() const
     {
         return static_cast<size_t>(widthHeight) * static_cast<size_t>(widthHeight) * sizeof(T);

@@ -13,27 +13,6 @@
 namespace zepm
 {
 
-// ---- What a block is ------------------------------------------------------------------------------------------------
-
-template <class>
-inline constexpr bool isConstantBlock = false;
-template <class T>
-inline constexpr bool isConstantBlock<ConstantBlock<T>> = true;
-template <class T>
-inline constexpr bool isConstantBlock<ConstantArrayBlock<T>> = true;
-template <class T>
-inline constexpr bool isConstantBlock<ConstantListBlock<T>> = true;
-
-template <class>
-inline constexpr bool isListBlock = false;
-template <class T, int Rank>
-inline constexpr bool isListBlock<ListBlock<T, Rank>> = true;
-
-template <class>
-inline constexpr bool isTransposedBlock = false;
-template <class Matrix>
-inline constexpr bool isTransposedBlock<TransposedBlock<Matrix>> = true;
-
 // A table's rows are as long as they are stored.
 template <bool Contiguous, class Block, class X>
 ZEPM_INLINE auto viewOf(const Block& block, const X& x)
@@ -83,32 +62,6 @@ ZEPM_INLINE void combineViews(Op op, const A& a, const B& b, const D& d, int32 w
 
 // ---- Contiguous rows ------------------------------------------------------------------------------------------------
 
-template <class T, bool IsArray, int Rank>
-ZEPM_INLINE RowOperand rowsOf(const StridedBlock<T, IsArray, Rank>& block)
-{
-    return {bytes(block.p), IsArray ? block.stride0 : RowOperand::fixed};
-}
-template <class T, int Rank>
-ZEPM_INLINE RowOperand rowsOf(const ListBlock<T, Rank>& block)
-{
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift};
-}
-template <class T>
-ZEPM_INLINE RowOperand rowsOf(const ConstantBlock<T>& block)
-{
-    return {bytes(&block.val), RowOperand::fixed};
-}
-template <class T>
-ZEPM_INLINE RowOperand rowsOf(const ConstantArrayBlock<T>& block)
-{
-    return {bytes(block.p), block.stride0};
-}
-template <class T>
-ZEPM_INLINE RowOperand rowsOf(const ConstantListBlock<T>& block)
-{
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift};
-}
-
 template <class Block>
 ZEPM_INLINE ptrdiff_t rowStrideOf(const Block& block)
 {
@@ -139,8 +92,8 @@ inline constexpr Sources sourcesOf = isConstantBlock<B>          ? (!B::isArray 
                                      : A::isArray && !B::isArray ? Sources::RowsAndOneRow
                                                                  : Sources::RowsAndRows;
 
-// Calls f(op, x, a, b) with the sources of x. Where one source alone is transposed, it stands first; where one row
-// serves all objects, it stands second. Captures of f would hold x in memory.
+// Calls f(op, x, a, b) with the sources of x, exchanged where the level sources expect it: a source that alone is
+// transposed comes first, a row that serves all objects second. f must not capture x, which would be spilled to memory.
 template <class Op, class X, class F>
 ZEPM_INLINE auto inTheirOrder(Op op, const X& x, F f)
 {
@@ -154,7 +107,7 @@ ZEPM_INLINE auto inTheirOrder(Op op, const X& x, F f)
         return f(op, x, x.src1, x.src2);
 }
 
-// Serves objects without gaps; false where there are any. It takes what it needs from x by value.
+// Serves objects without gaps and returns true; returns false if any operand has gaps.
 template <class Op, class X>
 ZEPM_INLINE bool combineIfDense(Op op, const X& call)
 {
@@ -166,9 +119,9 @@ ZEPM_INLINE bool combineIfDense(Op op, const X& call)
         {
             if (liesDense(a, x) && liesDense(b, x) && liesDense(x.dst, x))
             {
-                ZEPM_AT_LEVEL(combineDense<decltype(inOrder), typename Dst::Element>)
-                (rowsOf(a).p, rowsOf(b).p, bytes(x.dst.p), static_cast<ptrdiff_t>(x.width) * x.height, x.count,
-                 sourcesOf<A, B>);
+                ZEPM_AT_LEVEL(combineDense<typename Dst::Element, decltype(inOrder)>)
+                (inOrder, sequenceOf(a).p, sequenceOf(b).p, bytes(x.dst.p), static_cast<ptrdiff_t>(x.width) * x.height,
+                 x.count, sourcesOf<A, B>);
                 return true;
             }
         }
@@ -185,9 +138,10 @@ ZEPM_INLINE void combineContiguous(Op op, const X& call)
         using B = std::remove_cvref_t<decltype(b)>;
         using Dst = decltype(x.dst);
         using InOrder = decltype(inOrder);
-        const RowCall rows{rowsOf(a), rowsOf(b), rowsOf(x.dst), isConstantBlock<B>, isListBlock<Dst>, x.width, x.count};
+        const RowCall rows{sequenceOf(a), sequenceOf(b), sequenceOf(x.dst), isConstantBlock<B>, isListBlock<Dst>,
+                           x.width,       x.count};
         if constexpr (X::rank == 1)
-            ZEPM_AT_LEVEL(combineRows<InOrder, typename Dst::Element>)(rows);
+            ZEPM_AT_LEVEL(combineRows<typename Dst::Element, InOrder>)(inOrder, rows);
         else
         {
             MatrixCall matrices{rows,
@@ -197,7 +151,7 @@ ZEPM_INLINE void combineContiguous(Op op, const X& call)
                                 rowStrideOf(x.dst),
                                 isTransposedBlock<A>,
                                 isTransposedBlock<B>};
-            ZEPM_AT_LEVEL(combineMatrices<InOrder, typename Dst::Element>)(matrices);
+            ZEPM_AT_LEVEL(combineMatrices<typename Dst::Element, InOrder>)(inOrder, matrices);
         }
     });
 }
@@ -218,7 +172,7 @@ template <class Block, class X>
 ZEPM_INLINE auto rowAcross(const Block& block, const X& x, int32 i, int32 j)
 {
     if constexpr (isConstantBlock<Block>)
-        return rowsOf(block).p;
+        return sequenceOf(block).p;
     else
         return viewOf<false>(block, x).object(0).at(i, j);
 }
@@ -237,9 +191,9 @@ ZEPM_INLINE void combineAcross(Op op, const X& x)
             const char *const a = rowAcross(x.src1, x, i, j), *const b = rowAcross(x.src2, x, i, j);
             char* const d = rowAcross(x.dst, x, i, j);
             if constexpr (flips)
-                ZEPM_AT_LEVEL(combineDense<decltype(flipped(op)), T>)(b, a, d, x.count, 1, sources);
+                ZEPM_AT_LEVEL(combineDense<T, decltype(flipped(op))>)(flipped(op), b, a, d, x.count, 1, sources);
             else
-                ZEPM_AT_LEVEL(combineDense<Op, T>)(a, b, d, x.count, 1, sources);
+                ZEPM_AT_LEVEL(combineDense<T, Op>)(op, a, b, d, x.count, 1, sources);
         }
 }
 
@@ -248,36 +202,57 @@ inline constexpr int32 leastObjectsAcross = 16;
 
 // ---- Kernels --------------------------------------------------------------------------------------------------------
 
+// The sizes of single objects for which a row is written out: lengths of vectors, orders of dense square matrices.
+inline constexpr sizes<3, 4, 5, 6> writtenRows;
+
+// The source that stands second in a row: where its elements are, or the constant.
+template <class Block>
+ZEPM_INLINE auto rowOperand(const Block& block)
+{
+    if constexpr (isConstantBlock<Block>)
+        return block.val;
+    else
+        return bytes(block.p);
+}
+
+// Serves single objects of the sizes written out, without gaps; false where x is another call.
+template <class Op, class X>
+ZEPM_INLINE bool combineIfSmall(Op op, const X& x)
+{
+    using T = typename decltype(x.dst)::Element;
+    if constexpr (isTransposedBlock<decltype(x.src1)> || isTransposedBlock<decltype(x.src2)>)
+        return false;
+    else
+    {
+        if ((X::rank == 2 && x.width != x.height) || !isDense(x, x.width)) return false;
+        return forSize(
+            x.width, writtenRows,
+            [&]<int32 N>() ZEPM_INLINED {
+                ZEPM_LEVEL::rowOf<T, X::rank == 1 ? N : N * N>(op, bytes(x.src1.p), rowOperand(x.src2), bytes(x.dst.p));
+                return true;
+            },
+            []() ZEPM_INLINED { return false; });
+    }
+}
+
 // One vector with contiguous elements. A long one that overlaps a source without being that source takes the plain
 // loop.
 template <class Op, class X>
 ZEPM_INLINE void combineVector(Op op, const X& x)
 {
+    if (combineIfSmall(op, x)) return;
     using T = typename decltype(x.dst)::Element;
     constexpr bool isConstant = isConstantBlock<decltype(x.src2)>;
     const char* const a = bytes(x.src1.p);
     char* const d = bytes(x.dst.p);
-    const auto b = [&] {
-        if constexpr (isConstant)
-            return x.src2.val;
-        else
-            return bytes(x.src2.p);
-    }();
-    switch (x.width)
-    {
-    case 3: return baseline::rowOf<T, 3>(op, a, b, d);
-    case 4: return baseline::rowOf<T, 4>(op, a, b, d);
-    case 5: return baseline::rowOf<T, 5>(op, a, b, d);
-    case 6: return baseline::rowOf<T, 6>(op, a, b, d);
-    default: break;
-    }
+    const auto b = rowOperand(x.src2);
     auto apart = [&](const char* s) ZEPM_INLINED {
-        return s == d || baseline::areApart(s, d, x.width * static_cast<ptrdiff_t>(sizeof(T)));
+        return s == d || ZEPM_LEVEL::areApart(s, d, x.width * static_cast<ptrdiff_t>(sizeof(T)));
     };
     bool isApart = x.width > 6 && apart(a);
     if constexpr (!isConstant) isApart = isApart && apart(b);
-    if (isApart) ZEPM_AT_LEVEL(combineDense<Op, T>)
-    (a, rowsOf(x.src2).p, d, x.width, 1, sourcesOf<decltype(x.src1), decltype(x.src2)>);
+    if (isApart) ZEPM_AT_LEVEL(combineDense<T, Op>)
+    (op, a, sequenceOf(x.src2).p, d, x.width, 1, sourcesOf<decltype(x.src1), decltype(x.src2)>);
     else combineObject(op, viewOf<true>(x.src1, x).object(0), viewOf<true>(x.src2, x).object(0),
                        viewOf<true>(x.dst, x).object(0), x.width, 1);
 }
@@ -319,25 +294,26 @@ ZEPM_INLINE Status combineTable(Op op, const X& x, Written written = {})
 
 // ---- The way in -----------------------------------------------------------------------------------------------------
 
-// All calls but those on operands without gaps, out of the way of these.
-template <class X, class Order, class Limits>
-[[gnu::noinline, gnu::cold]] Status enterStored(const X& x, KernelOf<X>* packed, KernelOf<X>* general,
-                                                KernelOf<X>* driver)
+// What enterQuick takes for single objects.
+template <class Op>
+ZEPM_INLINE auto smallObjects(Op op)
 {
-    return enter(x, Order{}, Limits{}, packed, general, driver);
+    return [op](const auto& x) ZEPM_INLINED { return combineIfSmall(op, x); };
 }
 
-// As enter, but a serial call on operands without gaps does not come to a kernel: their strides need no check, and they
-// go where the work is done in registers. Results are stored one a cycle, so that storing an argument struct would
-// tell; x stays in registers, provided that the caller has not made it const.
+// Arrays in S. A serial call on operands without gaps does not come to a kernel: their strides need no check, and they
+// go where the work is done in registers. A short dense call takes about a cycle a result; storing the argument struct
+// would be a tenth of it.
 template <class Op, class X, class Order, class Limits>
-ZEPM_INLINE Status enterDense(Op op, const X& x, Order, Limits, KernelOf<X>* packed, KernelOf<X>* general,
+ZEPM_INLINE Status enterDense(Op op, const X& x, Order steps, Limits limits, KernelOf<X>* packed, KernelOf<X>* general,
                               KernelOf<X>* driver)
 {
-    using Sound = order<Pointers, Sizes, Count>;
-    if (isPacked(x) && Sound::check(x) == stsOk && !isHeavy<Limits::packed>(x) && combineIfDense(op, x)) return stsOk;
-    const X stored = x;
-    return enterStored<X, Order, Limits>(stored, packed, general, driver);
+    const auto serve = [op](const X& call) ZEPM_INLINED {
+        using Sound = order<Pointers, Sizes, Count>;
+        return isPacked(call) && Sound::check(call) == stsOk && !isHeavy<Limits::packed>(call) &&
+               combineIfDense(op, call);
+    };
+    return enterQuick(x, serve, steps, limits, packed, general, driver);
 }
 
 } // namespace zepm

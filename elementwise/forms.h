@@ -60,12 +60,12 @@ struct TwoPerObject
 
 // The size of each object. A vector of len elements is a matrix of one row.
 template <int Rank>
-struct Extent
+struct ObjectSize
 {
     int32 width, height;
 };
 template <>
-struct Extent<1>
+struct ObjectSize<1>
 {
     int32 width;
     static constexpr int32 height = 1;
@@ -73,22 +73,21 @@ struct Extent<1>
 
 // Objects or arrays of them, with objects or constants.
 template <int Rank, class Src1, class Src2, class Dst, class Estimate = ElementsTouched>
-struct Elementwise : Extent<Rank>
+struct Elementwise : ObjectSize<Rank>
 {
-    static constexpr bool lightWork = true;
     static constexpr int rank = Rank;
     Src1 src1;
     Src2 src2;
     Dst dst;
-    using Extent<Rank>::width, Extent<Rank>::height;
+    using ObjectSize<Rank>::width, ObjectSize<Rank>::height;
     int32 count;
 
     ZEPM_INLINE Elementwise(Src1 a, Src2 b, Dst d, int32 len, int32 n = 1) requires(Rank == 1)
-        : Extent<Rank>{len}, src1(a), src2(b), dst(d), count(n)
+        : ObjectSize<Rank>{len}, src1(a), src2(b), dst(d), count(n)
     {
     }
     ZEPM_INLINE Elementwise(Src1 a, Src2 b, Dst d, int32 columns, int32 rows, int32 n = 1) requires(Rank == 2)
-        : Extent<Rank>{columns, rows}, src1(a), src2(b), dst(d), count(n)
+        : ObjectSize<Rank>{columns, rows}, src1(a), src2(b), dst(d), count(n)
     {
     }
 
@@ -99,6 +98,7 @@ struct Elementwise : Extent<Rank>
     }
     ZEPM_INLINE bool sizesValid() const { return width >= 1 && height >= 1; }
     ZEPM_INLINE int32 estimate() const { return Estimate::of(*this).estimate(); }
+    ZEPM_INLINE static int32 weight() { return 1; }
     // Object k alone.
     template <class One>
     ZEPM_INLINE One object(int32 k) const

@@ -10,32 +10,12 @@ namespace zepm::ZEPM_LEVEL
 namespace
 {
 
-// What the second source of an operation may be, besides a matrix as it is stored. A source that alone is transposed
-// stands first, as the minuend or not.
+// Whether the second source may be transposed too. If only one source is transposed it comes first, so that operations
+// with exchanged operands never have two.
 template <class Op>
 inline constexpr bool takesTransposed = !takesConstantAlone<Op> && !std::is_same_v<Op, MinusFrom>;
 
 // ---- Rows -----------------------------------------------------------------------------------------------------------
-
-// An operand object by object; a fixed one is never a list.
-template <bool IsListCall>
-struct Objects
-{
-    const char* p;
-    ptrdiff_t step, shift;
-    bool isList;
-    ZEPM_INLINE explicit Objects(const RowOperand& operand)
-        : p(operand.p),
-          step(operand.isFixed() ? 0
-               : IsListCall      ? static_cast<ptrdiff_t>(sizeof(char*))
-                                 : operand.stride),
-          shift(operand.stride),
-          isList(IsListCall && !operand.isFixed())
-    {
-    }
-    ZEPM_INLINE const char* at() const { return isList ? load<const char*>(p) + shift : p; }
-    ZEPM_INLINE void next() { p += step; }
-};
 
 // Whether f is true of the operands that have rows, and of their row strides.
 template <class F>
@@ -45,14 +25,14 @@ ZEPM_INLINE bool ofRows(const MatrixCall& c, F f)
 }
 ZEPM_INLINE bool haveRowStride(const MatrixCall& c, ptrdiff_t size)
 {
-    return ofRows(c, [size](const RowOperand&, ptrdiff_t rowStride) { return rowStride == size; });
+    return ofRows(c, [size](const Sequence&, ptrdiff_t rowStride) { return rowStride == size; });
 }
 
-// Gapped rows of few elements, object by object: in rowOf b is a pointer, or the constant.
+// Rows of few elements with gaps between them, object by object. The second operand of rowOf is a pointer or a constant.
 template <int Width, bool IsList, class T, class Op>
 [[gnu::noinline]] void shortRowsOfEach(Op op, const MatrixCall& c)
 {
-    Objects<IsList> a(c.a), b(c.b), d(c.d);
+    Walk<IsList> a(c.a, IsList), b(c.b, IsList), d(c.d, IsList);
     const ptrdiff_t count = c.count, height = c.height;
     const ptrdiff_t strideA = c.rowStrideA, strideB = c.rowStrideB, strideD = c.rowStrideD;
     T constant{};
@@ -72,75 +52,77 @@ template <int Width, bool IsList, class T, class Op>
             each<Width>([&]<int>() ZEPM_INLINED { nextRow(); });
         else
             for (ptrdiff_t i = 0; i < height; ++i) nextRow();
-        a.next(), b.next(), d.next();
+        a.advance(), b.advance(), d.advance();
     }
 }
 
 // Gapped rows of any length: the rows of each object by themselves.
-template <bool IsList, class Op, class T>
-[[gnu::noinline]] void longRowsOfEach(const MatrixCall& c)
+template <bool IsList, class T, class Op>
+[[gnu::noinline]] void longRowsOfEach(Op op, const MatrixCall& c)
 {
-    Objects<IsList> a(c.a), b(c.b), d(c.d);
+    Walk<IsList> a(c.a, IsList), b(c.b, IsList), d(c.d, IsList);
     for (ptrdiff_t k = 0; k < c.count; ++k)
     {
-        const RowOperand rowsB = c.isConstant ? c.b : RowOperand{b.at(), c.rowStrideB};
-        ZEPM_LEVEL::combineRows<Op, T>(
-            {{a.at(), c.rowStrideA}, rowsB, {d.at(), c.rowStrideD}, c.isConstant, false, c.width, c.height});
-        a.next(), b.next(), d.next();
+        const Sequence rowsB = c.isConstant ? c.b : Sequence{b.at(), c.rowStrideB};
+        ZEPM_LEVEL::combineRows<T>(
+            op, {{a.at(), c.rowStrideA}, rowsB, {d.at(), c.rowStrideD}, c.isConstant, false, c.width, c.height});
+        a.advance(), b.advance(), d.advance();
     }
 }
 
-template <bool IsList, class Op, class T>
-ZEPM_INLINE void combineGapped(const MatrixCall& c)
+template <bool IsList, class T, class Op>
+ZEPM_INLINE void combineGapped(Op op, const MatrixCall& c)
 {
     switch (c.width)
     {
-    case 3: return shortRowsOfEach<3, IsList, T>(Op{}, c);
-    case 4: return shortRowsOfEach<4, IsList, T>(Op{}, c);
-    case 5: return shortRowsOfEach<5, IsList, T>(Op{}, c);
-    case 6: return shortRowsOfEach<6, IsList, T>(Op{}, c);
-    case 8: return shortRowsOfEach<8, IsList, T>(Op{}, c);
-    case 16: return shortRowsOfEach<16, IsList, T>(Op{}, c);
-    default: return longRowsOfEach<IsList, Op, T>(c);
+    case 3: return shortRowsOfEach<3, IsList, T>(op, c);
+    case 4: return shortRowsOfEach<4, IsList, T>(op, c);
+    case 5: return shortRowsOfEach<5, IsList, T>(op, c);
+    case 6: return shortRowsOfEach<6, IsList, T>(op, c);
+    case 8: return shortRowsOfEach<8, IsList, T>(op, c);
+    case 16: return shortRowsOfEach<16, IsList, T>(op, c);
+    default: return longRowsOfEach<IsList, T>(op, c);
     }
 }
 
-// The call becomes one on rows: a copy of it would wait for its fields to be stored.
-template <class Op, class T>
-ZEPM_INLINE void combineAsRows(MatrixCall& c)
+// The call itself is changed into one on rows: a copy would have to wait until the fields just written can be read.
+template <class T, class Op>
+ZEPM_INLINE void combineAsRows(Op op, MatrixCall& c)
 {
     if (haveRowStride(c, c.width * sz<T>))
     {
         c.width *= c.height;
-        return ZEPM_LEVEL::combineRows<Op, T>(c);
+        return ZEPM_LEVEL::combineRows<T>(op, c);
     }
     // The rows of all objects in one sequence.
-    if (!c.isList && ofRows(c, [&](const RowOperand& x, ptrdiff_t rowStride) {
-            return c.count == 1 || (!x.isFixed() && x.stride == c.height * rowStride);
+    if (!c.isList && ofRows(c, [&](const Sequence& x, ptrdiff_t rowStride) {
+            return c.count == 1 || (!x.isFixed() && x.step == c.height * rowStride);
         }))
     {
-        c.a.stride = c.rowStrideA;
-        if (!c.isConstant) c.b.stride = c.rowStrideB;
-        c.d.stride = c.rowStrideD;
+        c.a.step = c.rowStrideA;
+        if (!c.isConstant) c.b.step = c.rowStrideB;
+        c.d.step = c.rowStrideD;
         c.count *= c.height;
-        return ZEPM_LEVEL::combineRows<Op, T>(c);
+        return ZEPM_LEVEL::combineRows<T>(op, c);
     }
-    c.isList ? combineGapped<true, Op, T>(c) : combineGapped<false, Op, T>(c);
+    c.isList ? combineGapped<true, T>(op, c) : combineGapped<false, T>(op, c);
 }
 
-// ---- Tiles ----------------------------------------------------------------------------------------------------------
+// ---- TransposingTiles
+// ----------------------------------------------------------------------------------------------------------
 
 enum class Second
 {
+    None, // the transpose of the first source alone
     Normal,
     Transposed,
     Constant
 };
 
-// One object's operands, the first source transposed. RowSize is the distance between all rows, or 0 where each operand
-// has its own.
+// The operands of one object, the first source transposed. RowSize is the row stride of all three operands if it is known
+// at compile time, else 0.
 template <Second second, class T, class Op, ptrdiff_t RowSize>
-struct Tiles
+struct TransposingTiles
 {
     Op op;
     const char *a, *b;
@@ -225,30 +207,29 @@ constexpr int tileSize()
 template <int Order, Second second, bool IsList, ptrdiff_t RowSize, class T, class Op>
 [[gnu::noinline]] void tilesOfEach(Op op, const MatrixCall& c)
 {
-    Objects<IsList> a(c.a), b(c.b), d(c.d);
+    Walk<IsList> a(c.a, IsList), b(c.b, IsList), d(c.d, IsList);
     T constant{};
     if constexpr (second == Second::Constant) constant = load<T>(c.b.p);
     const ptrdiff_t count = c.count, width = c.width, height = c.height;
     ptrdiff_t strideA = c.rowStrideA, strideB = c.rowStrideB, strideD = c.rowStrideD;
     for (ptrdiff_t k = 0; k < count; ++k)
     {
-        // Not to be known ahead of the loop: the distances of all rows would be, and fill the stack.
+        // Hides the strides from the optimiser, which would compute every row's offset before the loop and spill them.
         if constexpr (RowSize == 0) asm("" : "+rm"(strideA), "+rm"(strideB), "+rm"(strideD));
-        const Tiles<second, T, Op, RowSize> object{op,      a.at(),  b.at(),  const_cast<char*>(d.at()),
-                                                   strideA, strideB, strideD, constant};
+        const TransposingTiles<second, T, Op, RowSize> object{op,      a.at(),  b.at(),  const_cast<char*>(d.at()),
+                                                              strideA, strideB, strideD, constant};
         if constexpr (Order > 0)
             object.template square<Order, tileSize<T, Order>()>();
         else
             object.template region<lanes<T>>(0, height, 0, width);
-        a.next(), b.next(), d.next();
+        a.advance(), b.advance(), d.advance();
     }
 }
 
 // ---- Dense matrices of few elements ---------------------------------------------------------------------------------
 
-// The registers that hold a dense matrix whole, or some side by side, but for a last element that transposition leaves
-// in its place. It fits where there are enough, and each register of the transpose has its lanes from two of them at
-// most.
+// A dense matrix (or Objects of them) held entirely in registers; an odd last element stays outside, as transposing
+// does not move it. fits: at most 12 registers, and one two-operand shuffle makes each register of the transpose.
 template <class T, int Order, int Objects = 1>
 struct Whole
 {
@@ -297,13 +278,13 @@ struct Whole
     (std::make_integer_sequence<int, size % N == 0 ? registers : 1>{});
 };
 
-// Successive objects in S, without gaps or with any distance from object to object; Together at a time if without.
+// Successive objects of the strided layout. If they follow one another without gaps, Together of them at a time.
 template <int Order, int Together, Second second, class T, class Op>
 [[gnu::noinline]] void wholeOfEach(Op op, const MatrixCall& c)
 {
     const char *a = c.a.p, *b = c.b.p;
     char* d = const_cast<char*>(c.d.p);
-    const ptrdiff_t aStep = c.a.toNext(), bStep = c.b.toNext(), dStep = c.d.stride;
+    const ptrdiff_t aStep = c.a.toNext(), bStep = c.b.toNext(), dStep = c.d.step;
     T constant{};
     if constexpr (second == Second::Constant) constant = load<T>(b);
     auto some = [&]<int Objects>() ZEPM_INLINED {
@@ -325,8 +306,11 @@ template <int Order, int Together, Second second, class T, class Op>
         {
             constexpr ptrdiff_t last = Matrix::size * sz<T>;
             T y = constant;
-            if constexpr (second != Second::Constant) y = load<T>(b + last);
-            store<T>(d + last, op(load<T>(a + last), y));
+            if constexpr (second == Second::Normal || second == Second::Transposed) y = load<T>(b + last);
+            if constexpr (second == Second::None)
+                store<T>(d + last, load<T>(a + last));
+            else
+                store<T>(d + last, op(load<T>(a + last), y));
         }
         a += Objects * aStep, b += Objects * bStep, d += Objects * dStep;
     };
@@ -336,17 +320,17 @@ template <int Order, int Together, Second second, class T, class Op>
         for (; count > 0; --count) some.template operator()<1>();
 }
 
-// Two matrices of an odd order fill whole registers of two elements. One by one, every other would lie at half a
-// register, and its pieces across cache lines.
+// Two matrices of an odd order together fill whole registers of two elements. One by one, every second matrix would start
+// in the middle of a register, and its loads and stores would cross cache lines.
 template <class T, int Order>
 inline constexpr int togetherIfDense = lanes<T> == 2 && Order % 2 == 1 && Whole<T, Order, 2>::fits ? 2 : 1;
 
-// Whether matrices without gaps lie so themselves.
+// Whether the objects lie without gaps too.
 template <class T>
 ZEPM_INLINE bool areDense(const MatrixCall& c)
 {
     const ptrdiff_t size = c.width * c.height * sz<T>;
-    return c.a.stride == size && (c.isConstant || c.b.stride == size) && c.d.stride == size;
+    return c.a.step == size && (c.isConstant || c.b.step == size) && c.d.step == size;
 }
 
 template <int Order, Second second, class T, class Op>
@@ -385,85 +369,73 @@ ZEPM_INLINE void combineTransposed(Op op, const MatrixCall& c)
     }
 }
 
-// The first operand alone, for a transposed copy.
-struct First
-{
-    template <class V>
-    ZEPM_INLINE V operator()(V a, V) const
-    {
-        return a;
-    }
-};
-
 // A fixed matrix up to this size is transposed once a call.
 inline constexpr ptrdiff_t copiedBytes = 4096;
 
-template <class Op, class T>
-[[gnu::noinline]] void combineWithCopy(const MatrixCall& c)
+template <class T, class Op>
+[[gnu::noinline]] void combineWithCopy(Op op, const MatrixCall& c)
 {
     alignas(64) char copy[copiedBytes];
     const ptrdiff_t rowSize = c.width * sz<T>;
-    const T unused{};
-    const RowOperand to{copy, RowOperand::fixed};
-    const RowOperand constant{reinterpret_cast<const char*>(&unused), RowOperand::fixed};
-    combineTransposed<Second::Constant, T>(
-        First{}, {{c.a, constant, to, true, false, c.width, 1}, c.height, c.rowStrideA, 0, rowSize, true, false});
+    const Sequence to{copy, Sequence::fixed};
+    combineTransposed<Second::None, T>(
+        op, {{c.a, c.a, to, false, false, c.width, 1}, c.height, c.rowStrideA, 0, rowSize, true, false});
     MatrixCall copied{
         {c.b, to, c.d, false, c.isList, c.width, c.count}, c.height, c.rowStrideB, rowSize, c.rowStrideD, false, false};
-    combineAsRows<decltype(flipped(Op{})), T>(copied);
+    combineAsRows<T>(flipped(op), copied);
 }
 
 // The first source, or both, transposed.
-template <class Op, class T>
-[[gnu::noinline]] void combineInTiles(const MatrixCall& c)
+template <class T, class Op>
+[[gnu::noinline]] void combineInTiles(Op op, const MatrixCall& c)
 {
     if constexpr (takesConstantAlone<Op>)
     {
-        combineTransposed<Second::Constant, T>(Op{}, c);
+        combineTransposed<Second::Constant, T>(op, c);
     }
     else
     {
         if constexpr (takesTransposed<Op>)
         {
-            if (c.isTransposedB) return combineTransposed<Second::Transposed, T>(Op{}, c);
+            if (c.isTransposedB) return combineTransposed<Second::Transposed, T>(op, c);
         }
-        if (c.a.isFixed() && c.count > 1 && c.width * c.height <= copiedBytes / sz<T>) return combineWithCopy<Op, T>(c);
-        combineTransposed<Second::Normal, T>(Op{}, c);
+        if (c.a.isFixed() && c.count > 1 && c.width * c.height <= copiedBytes / sz<T>) return combineWithCopy<T>(op, c);
+        combineTransposed<Second::Normal, T>(op, c);
     }
 }
 
 // Whether results are to be stored past the caches; in place they are read anyway.
 template <class T>
-ZEPM_INLINE bool isStreamed(const MatrixCall& c)
+ZEPM_INLINE bool areMatricesStreamed(const MatrixCall& c)
 {
     const ptrdiff_t rowSize = c.width * sz<T>, size = c.height * rowSize;
     const int sources = !c.a.isFixed() + (!c.b.isFixed() && !c.isConstant);
-    return !c.isList && c.rowStrideD == rowSize && c.d.stride == size && size <= streamedMatrix &&
+    return !c.isList && c.rowStrideD == rowSize && c.d.step == size && size <= streamedMatrix &&
            isBeyondCaches(c.count * size, sources) && c.a.p != c.d.p && c.b.p != c.d.p;
 }
 
-template <class Op, class T>
-[[gnu::noinline]] void combineStreaming(const MatrixCall& c)
+template <class T, class Op>
+[[gnu::noinline]] void combineStreaming(Op op, const MatrixCall& c)
 {
-    streamCall(c, c.d.stride, [](const MatrixCall& part) { combineInTiles<Op, T>(part); });
+    streamCall(c, c.d.step, [op](const MatrixCall& part) { combineInTiles<T>(op, part); });
 }
 
 } // namespace
 
-template <class Op, class T>
-void combineMatrices(MatrixCall& c)
+template <class T, class Op>
+void combineMatrices(Op op, MatrixCall& c)
 {
-    if (!c.isTransposedA) return combineAsRows<Op, T>(c);
-    isStreamed<T>(c) ? combineStreaming<Op, T>(c) : combineInTiles<Op, T>(c);
+    if (!c.isTransposedA) return combineAsRows<T>(op, c);
+    areMatricesStreamed<T>(c) ? combineStreaming<T>(op, c) : combineInTiles<T>(op, c);
 }
 
-template void combineMatrices<Plus, float32>(MatrixCall&);
-template void combineMatrices<Plus, float64>(MatrixCall&);
-template void combineMatrices<Minus, float32>(MatrixCall&);
-template void combineMatrices<Minus, float64>(MatrixCall&);
-template void combineMatrices<MinusFrom, float32>(MatrixCall&);
-template void combineMatrices<MinusFrom, float64>(MatrixCall&);
-template void combineMatrices<Times, float32>(MatrixCall&);
-template void combineMatrices<Times, float64>(MatrixCall&);
+template void combineMatrices<float32, Plus>(Plus, MatrixCall&);
+template void combineMatrices<float64, Plus>(Plus, MatrixCall&);
+template void combineMatrices<float32, Minus>(Minus, MatrixCall&);
+template void combineMatrices<float64, Minus>(Minus, MatrixCall&);
+template void combineMatrices<float32, MinusFrom>(MinusFrom, MatrixCall&);
+template void combineMatrices<float64, MinusFrom>(MinusFrom, MatrixCall&);
+template void combineMatrices<float32, Times>(Times, MatrixCall&);
+template void combineMatrices<float64, Times>(Times, MatrixCall&);
 
 } // namespace zepm::ZEPM_LEVEL

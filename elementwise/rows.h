@@ -4,11 +4,12 @@
 
 #include "elementwise/operations.h"
 #include "frame/levels.h"
+#include "frame/sequence.h"
 
 namespace zepm
 {
 
-// What the sources of a call give to each object: a row or a constant of its own, or one for all.
+// What the two sources of a call are: a row or a constant for each object, or one row or constant for all objects.
 enum class Sources
 {
     RowsAndRows,
@@ -18,22 +19,10 @@ enum class Sources
     OneRowAndConstants
 };
 
-// Where the rows of one operand lie, those of object k from p + k * stride on or, in a list, from entry k of the table
-// p plus stride. An operand that is the same for every object has the stride fixed, and is never a list.
-struct RowOperand
-{
-    static constexpr ptrdiff_t fixed = -1;
-    const char* p;
-    ptrdiff_t stride;
-
-    ZEPM_INLINE bool isFixed() const { return stride < 0; }
-    ZEPM_INLINE ptrdiff_t toNext() const { return isFixed() ? 0 : stride; }
-};
-
 // d = op(a, b) on count objects of one row of width elements. One row for all stands second, unless with constants.
 struct RowCall
 {
-    RowOperand a, b, d;
+    Sequence a, b, d;
     bool isConstant; // b is one element for each object, or a fixed one for all
     bool isList;
     ptrdiff_t width, count;
@@ -50,9 +39,9 @@ struct MatrixCall : RowCall
 
 // combineDense takes rows of which each begins where the one before ends, constants likewise. Its arguments stay in
 // registers: a short dense call takes about a cycle a result, and storing an argument struct would be a tenth of it.
-ZEPM_EACH_LEVEL(template <class Op, class T> void combineDense(const char* a, const char* b, char* d, ptrdiff_t width,
-                                                               ptrdiff_t count, Sources sources);
-                template <class Op, class T> void combineRows(const RowCall& call);
-                template <class Op, class T> void combineMatrices(MatrixCall& call);)
+ZEPM_EACH_LEVEL(template <class T, class Op> void combineDense(Op op, const char* a, const char* b, char* d,
+                                                               ptrdiff_t width, ptrdiff_t count, Sources sources);
+                template <class T, class Op> void combineRows(Op op, const RowCall& call);
+                template <class T, class Op> void combineMatrices(Op op, MatrixCall& call);)
 
 } // namespace zepm

@@ -16,7 +16,7 @@ struct Stepping
 {
     const char* p;
     ptrdiff_t stride;
-    ZEPM_INLINE Stepping(const RowOperand& operand, ptrdiff_t k) : p(operand.p), stride(operand.toNext())
+    ZEPM_INLINE Stepping(const Sequence& operand, ptrdiff_t k) : p(operand.p), stride(operand.toNext())
     {
         p += k * stride;
     }
@@ -24,7 +24,7 @@ struct Stepping
     ZEPM_INLINE void next() { p += stride; }
 };
 
-// Rows of which the second lies at a distance of its own from the first.
+// Rows at a stride; the step from the first to the second may be shorter (a first group that the second overlaps).
 struct SteppingFrom
 {
     const char* p;
@@ -41,8 +41,8 @@ struct Listed
 {
     const char* entry;
     ptrdiff_t shift;
-    ZEPM_INLINE Listed(const RowOperand& operand, ptrdiff_t k)
-        : entry(operand.p + k * static_cast<ptrdiff_t>(sizeof(char*))), shift(operand.stride)
+    ZEPM_INLINE Listed(const Sequence& operand, ptrdiff_t k)
+        : entry(operand.p + k * static_cast<ptrdiff_t>(sizeof(char*))), shift(operand.step)
     {
     }
     ZEPM_INLINE const char* at() const { return load<const char*>(entry) + shift; }
@@ -54,9 +54,9 @@ struct Listed
 // A source gives its row as a whole, for rows of any length, or N elements from element J of it, for rows of a known
 // one.
 
-// The elements of each row.
+// A row of elements for each object.
 template <class T, class Rows>
-struct Elements
+struct RowElements
 {
     Rows rows;
     const char* p = nullptr;
@@ -116,13 +116,13 @@ ZEPM_INLINE Vec<T, N> repeated(const char* p)
 
 // The pieces of such a row, each in a register of its own.
 template <class T, int Length, int Total, int N = lanes<T>, int J = 0>
-struct Pieces
+struct HeldPieces
 {
     static constexpr bool fits = Total - J >= N;
     Vec<T, fits ? N : 1> own{};
-    Pieces<T, Length, Total, fits ? N : N / 2, fits ? J + N : J> rest;
+    HeldPieces<T, Length, Total, fits ? N : N / 2, fits ? J + N : J> rest;
 
-    ZEPM_INLINE explicit Pieces(const char* p) : rest(p)
+    ZEPM_INLINE explicit HeldPieces(const char* p) : rest(p)
     {
         if constexpr (fits) own = repeated<T, Length, N, J>(p);
     }
@@ -136,16 +136,16 @@ struct Pieces
     }
 };
 template <class T, int Length, int Total, int N>
-struct Pieces<T, Length, Total, N, Total>
+struct HeldPieces<T, Length, Total, N, Total>
 {
-    ZEPM_INLINE explicit Pieces(const char*) {}
+    ZEPM_INLINE explicit HeldPieces(const char*) {}
 };
 
 // The elements of a fixed row of a known length, over and over.
 template <class T, int Length, int Repeated = 1>
 struct Held
 {
-    Pieces<T, Length, Length * Repeated> pieces;
+    HeldPieces<T, Length, Length * Repeated> pieces;
     ZEPM_INLINE explicit Held(const char* p) : pieces(p) {}
     ZEPM_INLINE void enter() {}
     ZEPM_INLINE void next() {}
@@ -208,12 +208,12 @@ ZEPM_INLINE void rows(Op op, A a, B b, D d, ptrdiff_t width, ptrdiff_t count)
 
 // A fixed row of few elements is held; a longer one is read again for each object.
 template <class T, int Length>
-ZEPM_INLINE auto fixedRow(const RowOperand& operand)
+ZEPM_INLINE auto fixedRow(const Sequence& operand)
 {
     if constexpr (Length > 0)
         return Held<T, Length>(operand.p);
     else
-        return Elements<T, Stepping>{Stepping(operand, 0)};
+        return RowElements<T, Stepping>{Stepping(operand, 0)};
 }
 
 // Lengths with code of their own for a constant for each row: those of vectors.
@@ -224,7 +224,7 @@ inline constexpr bool takesConstants = Length <= 6;
 template <class T, int Length, class Lying, class Op>
 [[gnu::noinline]] void rowsOf(Op op, const RowCall& c, ptrdiff_t k, ptrdiff_t count)
 {
-    const Elements<T, Lying> a{Lying(c.a, k)};
+    const RowElements<T, Lying> a{Lying(c.a, k)};
     const Lying d(c.d, k);
     if (c.isConstant && c.b.isFixed()) return rows<T, Length>(op, a, OneConstant<T>{load<T>(c.b.p)}, d, c.width, count);
     if constexpr (takesConstants<Length>)
@@ -238,7 +238,7 @@ template <class T, int Length, class Lying, class Op>
     }
     if constexpr (!takesConstantAlone<Op>)
         c.b.isFixed() ? rows<T, Length>(op, a, fixedRow<T, Length>(c.b), d, c.width, count)
-                      : rows<T, Length>(op, a, Elements<T, Lying>{Lying(c.b, k)}, d, c.width, count);
+                      : rows<T, Length>(op, a, RowElements<T, Lying>{Lying(c.b, k)}, d, c.width, count);
 }
 
 // ---- Rows one by one ------------------------------------------------------------------------------------------------
@@ -276,19 +276,19 @@ template <class T>
 ZEPM_INLINE bool isStreamed(const RowCall& c)
 {
     const ptrdiff_t rowSize = c.width * sz<T>, size = c.count * rowSize;
-    return size >= leastStreamed && !c.isList && c.d.stride == rowSize && rowSize <= streamedChunk &&
+    return size >= leastStreamed && !c.isList && c.d.step == rowSize && rowSize <= streamedChunk &&
            repaysStreaming<T>(c.a.p, c.b.p, c.d.p, size, !c.a.isFixed() + (!c.b.isFixed() && !c.isConstant));
 }
 
 template <class T, class Op>
 [[gnu::noinline]] void streamRows(Op op, const RowCall& c)
 {
-    streamCall(c, c.d.stride, [op](const RowCall& part) { oneByOne<T>(op, part, 0, part.count); });
+    streamCall(c, c.d.step, [op](const RowCall& part) { oneByOne<T>(op, part, 0, part.count); });
 }
 
 // ---- Dense rows -----------------------------------------------------------------------------------------------------
 //
-// Whatever is asked for few calls only has a function of its own, so that the others keep nothing across the question.
+// Rare cases are in noinline functions, so that the common path need not save registers around the test.
 
 template <Sources sources>
 inline constexpr bool hasConstants = sources == Sources::RowsAndConstants || sources == Sources::OneRowAndConstants;
@@ -297,8 +297,8 @@ template <class T, Sources sources>
 ZEPM_INLINE RowCall callOf(const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count)
 {
     const ptrdiff_t size = width * sz<T>;
-    return {{a, sources == Sources::OneRowAndConstants ? RowOperand::fixed : size},
-            {b, hasConstants<sources> ? sz<T> : RowOperand::fixed},
+    return {{a, sources == Sources::OneRowAndConstants ? Sequence::fixed : size},
+            {b, hasConstants<sources> ? sz<T> : Sequence::fixed},
             {d, size},
             hasConstants<sources>,
             false,
@@ -329,8 +329,8 @@ ZEPM_INLINE void oneRow(Op op, const char* a, B b, char* d, ptrdiff_t n)
     n < leastStreamed / sz<T> ? row<T>(op, a, b, d, n) : longestRow<T>(op, a, b, d, n);
 }
 
-// How many dense rows fill whole registers together, some registers at least: what surrounds a group costs as much as
-// one. With constants it is as many as a register holds.
+// The number of dense rows that make a group: together they fill whole registers, at least four of them, since the loop
+// around a group costs as much as one register. With constants it is as many rows as a register holds constants.
 template <class T, int Length, Sources sources>
 constexpr int groupSize()
 {
@@ -353,7 +353,7 @@ template <class T, int Length, Sources sources, bool Streams, class Op>
     auto along = [&](auto first, auto second) ZEPM_INLINED {
         rows<T, Length * size, Streams>(op, first, second, lying(d, Length * sz<T>), 0, count);
     };
-    const Elements<T, SteppingFrom> rowsA{lying(a, Length * sz<T>)};
+    const RowElements<T, SteppingFrom> rowsA{lying(a, Length * sz<T>)};
     if constexpr (sources == Sources::RowsAndOneRow)
         along(rowsA, Held<T, Length, size>(b));
     else if constexpr (sources == Sources::RowsAndConstants)
@@ -362,7 +362,7 @@ template <class T, int Length, Sources sources, bool Streams, class Op>
         along(Held<T, Length, size>(a), Spread<T, Length>{lying(b, sz<T>)});
 }
 
-// Rows before the first that starts a register of the destination, or -1 where none does.
+// The number of rows before the first one whose destination is aligned to a register, or -1 if there is none.
 template <class T>
 [[gnu::noinline]] ptrdiff_t rowsToAlignment(const char* d, ptrdiff_t rowSize)
 {
@@ -371,25 +371,25 @@ template <class T>
     return -1;
 }
 
-// Rows in groups, what is left over row by row. Rows that are stored past the caches begin with the first that starts a
-// register of the destination.
+// Rows in groups, a remainder row by row. Stores past the caches need alignment, so they begin with the first row whose
+// destination is aligned to a register.
 template <class T, int Length, Sources sources, bool Streams, class Op>
 [[gnu::noinline]] void groupsInTurn(Op op, const char* a, const char* b, char* d, ptrdiff_t count)
 {
     constexpr ptrdiff_t size = groupSize<T, Length, sources>();
     const RowCall c = callOf<T, sources>(a, b, d, Length, count);
-    const ptrdiff_t head = Streams ? rowsToAlignment<T>(d, c.d.stride) : 0;
+    const ptrdiff_t head = Streams ? rowsToAlignment<T>(d, c.d.step) : 0;
     if (head < 0) return groupsInTurn<T, Length, sources, false>(op, a, b, d, count);
     if (head > 0) oneByOne<T>(op, c, 0, head);
     const ptrdiff_t groups = (count - head) / size, done = head + groups * size;
-    groupsOf<T, Length, sources, Streams>(op, a + head * c.a.toNext(), b + head * c.b.toNext(), d + head * c.d.stride,
+    groupsOf<T, Length, sources, Streams>(op, a + head * c.a.toNext(), b + head * c.b.toNext(), d + head * c.d.step,
                                           size, groups);
     if (Streams) fenceStreams();
     if (done < count) oneByOne<T>(op, c, done, count - done);
 }
 
-// At least a group of rows. What does not fill a group makes one more, the first, which the next overlaps, unless the
-// sources may lie under the destination.
+// count is at least one group. A remainder is served by a first group that the second one overlaps, so that some results
+// are computed twice; where a source may overlap the destination, by single rows behind the last group.
 template <class T, int Length, Sources sources, class Op>
 [[gnu::noinline]] void grouped(Op op, const char* a, const char* b, char* d, ptrdiff_t count)
 {
@@ -447,16 +447,14 @@ ZEPM_INLINE void denseRows(Op op, const char* a, const char* b, char* d, ptrdiff
     denseOneByOne<T, sources>(op, a, b, d, width, count);
 }
 
-// One row may lie anywhere.
+// Whether the rows follow one another without gaps. With a count of 1 the object strides are not looked at.
 template <class T>
 ZEPM_INLINE bool isDense(const RowCall& c)
 {
-    const auto lies = [](const RowOperand& operand, ptrdiff_t size) {
-        return operand.isFixed() || operand.stride == size;
-    };
+    const auto lies = [](const Sequence& operand, ptrdiff_t size) { return operand.isFixed() || operand.step == size; };
     const ptrdiff_t size = c.width * sz<T>;
     return !c.isList &&
-           (c.count == 1 || (lies(c.a, size) && lies(c.b, c.isConstant ? sz<T> : size) && c.d.stride == size));
+           (c.count == 1 || (lies(c.a, size) && lies(c.b, c.isConstant ? sz<T> : size) && c.d.step == size));
 }
 
 ZEPM_INLINE Sources sourcesIn(const RowCall& c)
@@ -470,46 +468,48 @@ ZEPM_INLINE Sources sourcesIn(const RowCall& c)
 
 } // namespace
 
-template <class Op, class T>
-void combineDense(const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count, Sources sources)
+template <class T, class Op>
+void combineDense(Op op, const char* a, const char* b, char* d, ptrdiff_t width, ptrdiff_t count, Sources sources)
 {
     switch (sources)
     {
-    case Sources::RowsAndRows: return oneRow<T>(Op{}, a, b, d, width * count);
-    case Sources::RowsAndOneConstant: return oneRow<T>(Op{}, a, load<T>(b), d, width * count);
-    case Sources::RowsAndConstants: return denseRows<T, Sources::RowsAndConstants>(Op{}, a, b, d, width, count);
-    case Sources::OneRowAndConstants: return denseRows<T, Sources::OneRowAndConstants>(Op{}, a, b, d, width, count);
+    case Sources::RowsAndRows: return oneRow<T>(op, a, b, d, width * count);
+    case Sources::RowsAndOneConstant: return oneRow<T>(op, a, load<T>(b), d, width * count);
+    case Sources::RowsAndConstants: return denseRows<T, Sources::RowsAndConstants>(op, a, b, d, width, count);
+    case Sources::OneRowAndConstants: return denseRows<T, Sources::OneRowAndConstants>(op, a, b, d, width, count);
     case Sources::RowsAndOneRow:
-        if constexpr (!takesConstantAlone<Op>) denseRows<T, Sources::RowsAndOneRow>(Op{}, a, b, d, width, count);
+        if constexpr (!takesConstantAlone<Op>) denseRows<T, Sources::RowsAndOneRow>(op, a, b, d, width, count);
     }
 }
 
-template <class Op, class T>
-void combineRows(const RowCall& c)
+template <class T, class Op>
+void combineRows(Op op, const RowCall& c)
 {
     if (isDense<T>(c))
-        ZEPM_LEVEL::combineDense<Op, T>(c.a.p, c.b.p, const_cast<char*>(c.d.p), c.width, c.count, sourcesIn(c));
+        ZEPM_LEVEL::combineDense<T>(op, c.a.p, c.b.p, const_cast<char*>(c.d.p), c.width, c.count, sourcesIn(c));
     else if (isStreamed<T>(c))
-        streamRows<T>(Op{}, c);
+        streamRows<T>(op, c);
     else
-        oneByOne<T>(Op{}, c, 0, c.count);
+        oneByOne<T>(op, c, 0, c.count);
 }
 
-template void combineDense<Plus, float32>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
-template void combineDense<Plus, float64>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
-template void combineDense<Minus, float32>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
-template void combineDense<Minus, float64>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
-template void combineDense<MinusFrom, float32>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
-template void combineDense<MinusFrom, float64>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
-template void combineDense<Times, float32>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
-template void combineDense<Times, float64>(const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
-template void combineRows<Plus, float32>(const RowCall&);
-template void combineRows<Plus, float64>(const RowCall&);
-template void combineRows<Minus, float32>(const RowCall&);
-template void combineRows<Minus, float64>(const RowCall&);
-template void combineRows<MinusFrom, float32>(const RowCall&);
-template void combineRows<MinusFrom, float64>(const RowCall&);
-template void combineRows<Times, float32>(const RowCall&);
-template void combineRows<Times, float64>(const RowCall&);
+template void combineDense<float32, Plus>(Plus, const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<float64, Plus>(Plus, const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<float32, Minus>(Minus, const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<float64, Minus>(Minus, const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<float32, MinusFrom>(MinusFrom, const char*, const char*, char*, ptrdiff_t, ptrdiff_t,
+                                               Sources);
+template void combineDense<float64, MinusFrom>(MinusFrom, const char*, const char*, char*, ptrdiff_t, ptrdiff_t,
+                                               Sources);
+template void combineDense<float32, Times>(Times, const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<float64, Times>(Times, const char*, const char*, char*, ptrdiff_t, ptrdiff_t, Sources);
+template void combineRows<float32, Plus>(Plus, const RowCall&);
+template void combineRows<float64, Plus>(Plus, const RowCall&);
+template void combineRows<float32, Minus>(Minus, const RowCall&);
+template void combineRows<float64, Minus>(Minus, const RowCall&);
+template void combineRows<float32, MinusFrom>(MinusFrom, const RowCall&);
+template void combineRows<float64, MinusFrom>(MinusFrom, const RowCall&);
+template void combineRows<float32, Times>(Times, const RowCall&);
+template void combineRows<float64, Times>(Times, const RowCall&);
 
 } // namespace zepm::ZEPM_LEVEL

@@ -26,7 +26,8 @@ Status zepmAdd_mm_32f(const float32* pSrc1, int32 src1Stride1, int32 src1Stride2
                                   {pDst, dstStride1, dstStride2},
                                   width,
                                   height};
-    return enter(x, order<Pointers, Sizes, Strides>{}, ownAdd_mm_32f_Packed, ownAdd_mm_32f_Strided);
+    return enterQuick(x, smallObjects(Plus{}), order<Pointers, Sizes, Strides>{}, ownAdd_mm_32f_Packed,
+                      ownAdd_mm_32f_Strided);
 }
 
 Status zepmAdd_mm_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, const float32* const* ppSrc2,
@@ -45,7 +46,8 @@ Status zepmAdd_mm_64f(const float64* pSrc1, int32 src1Stride1, int32 src1Stride2
                                   {pDst, dstStride1, dstStride2},
                                   width,
                                   height};
-    return enter(x, order<Pointers, Sizes, Strides>{}, ownAdd_mm_64f_Packed, ownAdd_mm_64f_Strided);
+    return enterQuick(x, smallObjects(Plus{}), order<Pointers, Sizes, Strides>{}, ownAdd_mm_64f_Packed,
+                      ownAdd_mm_64f_Strided);
 }
 
 Status zepmAdd_mm_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, const float64* const* ppSrc2,

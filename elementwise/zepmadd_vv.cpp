@@ -21,7 +21,8 @@ Status zepmAdd_vv_32f(const float32* pSrc1, int32 src1Stride2, const float32* pS
                       int32 dstStride2, int32 len)
 {
     const CombineVv<float32, S> x{{pSrc1, src1Stride2}, {pSrc2, src2Stride2}, {pDst, dstStride2}, len};
-    return enter(x, order<Pointers, Sizes, Strides>{}, ownAdd_vv_32f_Packed, ownAdd_vv_32f_Strided);
+    return enterQuick(x, smallObjects(Plus{}), order<Pointers, Sizes, Strides>{}, ownAdd_vv_32f_Packed,
+                      ownAdd_vv_32f_Strided);
 }
 
 Status zepmAdd_vv_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, const float32* const* ppSrc2,
@@ -35,7 +36,8 @@ Status zepmAdd_vv_64f(const float64* pSrc1, int32 src1Stride2, const float64* pS
                       int32 dstStride2, int32 len)
 {
     const CombineVv<float64, S> x{{pSrc1, src1Stride2}, {pSrc2, src2Stride2}, {pDst, dstStride2}, len};
-    return enter(x, order<Pointers, Sizes, Strides>{}, ownAdd_vv_64f_Packed, ownAdd_vv_64f_Strided);
+    return enterQuick(x, smallObjects(Plus{}), order<Pointers, Sizes, Strides>{}, ownAdd_vv_64f_Packed,
+                      ownAdd_vv_64f_Strided);
 }
 
 Status zepmAdd_vv_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, const float64* const* ppSrc2,

@@ -34,7 +34,8 @@ Status zepmMul_mc_32f(const float32* pSrc, int32 srcStride1, int32 srcStride2, f
                       int32 dstStride1, int32 dstStride2, int32 width, int32 height)
 {
     const CombineMc<float32, S> x{{pSrc, srcStride1, srcStride2}, {val}, {pDst, dstStride1, dstStride2}, width, height};
-    return enter(x, order<Pointers, Sizes, Strides>{}, ownMul_mc_32f_Packed, ownMul_mc_32f_Strided);
+    return enterQuick(x, smallObjects(Times{}), order<Pointers, Sizes, Strides>{}, ownMul_mc_32f_Packed,
+                      ownMul_mc_32f_Strided);
 }
 
 Status zepmMul_mc_32f_P(const float32* const* ppSrc, int32 srcRoiShift, float32 val, float32* const* ppDst,
@@ -48,7 +49,8 @@ Status zepmMul_mc_64f(const float64* pSrc, int32 srcStride1, int32 srcStride2, f
                       int32 dstStride1, int32 dstStride2, int32 width, int32 height)
 {
     const CombineMc<float64, S> x{{pSrc, srcStride1, srcStride2}, {val}, {pDst, dstStride1, dstStride2}, width, height};
-    return enter(x, order<Pointers, Sizes, Strides>{}, ownMul_mc_64f_Packed, ownMul_mc_64f_Strided);
+    return enterQuick(x, smallObjects(Times{}), order<Pointers, Sizes, Strides>{}, ownMul_mc_64f_Packed,
+                      ownMul_mc_64f_Strided);
 }
 
 Status zepmMul_mc_64f_P(const float64* const* ppSrc, int32 srcRoiShift, float64 val, float64* const* ppDst,

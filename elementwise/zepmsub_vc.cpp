@@ -20,7 +20,8 @@ using namespace zepm;
 Status zepmSub_vc_32f(const float32* pSrc, int32 srcStride2, float32 val, float32* pDst, int32 dstStride2, int32 len)
 {
     const CombineVc<float32, S> x{{pSrc, srcStride2}, {val}, {pDst, dstStride2}, len};
-    return enter(x, order<Pointers, Sizes, Strides>{}, ownSub_vc_32f_Packed, ownSub_vc_32f_Strided);
+    return enterQuick(x, smallObjects(Minus{}), order<Pointers, Sizes, Strides>{}, ownSub_vc_32f_Packed,
+                      ownSub_vc_32f_Strided);
 }
 
 Status zepmSub_vc_32f_P(const float32* const* ppSrc, int32 srcRoiShift, float32 val, float32* const* ppDst,
@@ -33,7 +34,8 @@ Status zepmSub_vc_32f_P(const float32* const* ppSrc, int32 srcRoiShift, float32 
 Status zepmSub_vc_64f(const float64* pSrc, int32 srcStride2, float64 val, float64* pDst, int32 dstStride2, int32 len)
 {
     const CombineVc<float64, S> x{{pSrc, srcStride2}, {val}, {pDst, dstStride2}, len};
-    return enter(x, order<Pointers, Sizes, Strides>{}, ownSub_vc_64f_Packed, ownSub_vc_64f_Strided);
+    return enterQuick(x, smallObjects(Minus{}), order<Pointers, Sizes, Strides>{}, ownSub_vc_64f_Packed,
+                      ownSub_vc_64f_Strided);
 }
 
 Status zepmSub_vc_64f_P(const float64* const* ppSrc, int32 srcRoiShift, float64 val, float64* const* ppDst,

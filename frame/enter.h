@@ -2,13 +2,11 @@
 // packed and the general kernel, and the limit above which the driver takes the call.
 //
 // An argument struct X gives operands(f), which calls f with each of its blocks in turn and says whether f was true of
-// all; sizesValid(), unless no step asks; in arrays count, estimate() and share(first, n); where sizes must fit each
-// other sizesMatch(); lightWork where a call may cost less than a fork. See parallel.h for canFail and scratch.
+// all; sizesValid(), unless no step asks; in arrays count, estimate(), weight() and share(first, n); where sizes must
+// fit each other sizesMatch(). See parallel.h for canFail and scratch.
 #pragma once
 
 #include "frame/settings.h"
-
-#include <concepts>
 
 namespace zepm
 {
@@ -21,22 +19,15 @@ struct AnyOperand
 template <class X>
 concept Call = requires(const X& x)
 {
-    {
-        x.operands(AnyOperand{})
-        } -> std::same_as<bool>;
+    requires std::is_same_v<decltype(x.operands(AnyOperand{})), bool>;
 };
 template <class X>
 concept ArrayCall = Call<X> && requires(const X& x, int32 n)
 {
-    {
-        x.count + 0
-        } -> std::same_as<int32>;
-    {
-        x.estimate()
-        } -> std::same_as<int32>;
-    {
-        x.share(n, n)
-        } -> std::same_as<X>;
+    requires std::is_same_v<decltype(x.count + 0), int32>;
+    requires std::is_same_v<decltype(x.estimate()), int32>;
+    requires std::is_same_v<decltype(x.weight()), int32>;
+    requires std::is_same_v<decltype(x.share(n, n)), X>;
 };
 
 // The packed case: the elements of every operand that has strides are contiguous.
@@ -156,21 +147,13 @@ struct parallelFrom
 template <class X>
 using KernelOf = Status(const X&);
 
-template <class X>
-concept LightWork = requires
-{
-    requires X::lightWork;
-};
-
-// Whether a call is the driver's. One that may cost less than a fork is not below the least work that repays it.
+// Whether a call is the driver's: from its own limit on, unless it takes less time than repays a fork. weight() is the
+// time for an element of the estimate, in elements of an element-wise call.
 template <int32 Limit, class X>
 ZEPM_INLINE bool isHeavy(const X& x)
 {
     const int32 work = x.estimate();
-    if constexpr (LightWork<X>)
-        return work >= Limit && work >= minParallelWork();
-    else
-        return work >= Limit;
+    return work >= Limit && static_cast<int64_t>(work) * x.weight() >= minParallelWork();
 }
 
 // Arrays in S and L.
@@ -203,6 +186,48 @@ ZEPM_INLINE Status enter(const X& x, Order, KernelOf<X>* kernel)
 {
     if (const Status invalid = Order::check(x)) return invalid;
     return kernel(x);
+}
+
+// ---- Calls in good order --------------------------------------------------------------------------------------------
+//
+// For a short call the tests one by one and an argument struct in memory take longer than the arithmetic. serve(x) asks
+// by a few combined tests whether a call is in good order and has the operands that most calls have; if so, it serves
+// the call with the operands in registers and returns true. All other calls take the road above. serve must be false
+// wherever a step of validation fails or the driver is to be entered.
+
+template <class X, class... Road>
+[[gnu::noinline]] Status enterStored(const X& x, Road... road)
+{
+    return enter(x, road...);
+}
+
+template <Call X, class Serve, class... Road>
+ZEPM_INLINE Status enterQuick(const X& x, Serve serve, Road... road)
+{
+    if (serve(x)) return stsOk;
+    const X stored = x; // so that x itself need not be in memory
+    return enterStored<X, Road...>(stored, road...);
+}
+
+// No bit is set if all of these are equal to the first.
+template <class... Value>
+ZEPM_INLINE uint32_t differences(int32 first, Value... others)
+{
+    return (0u | ... | (static_cast<uint32_t>(first) ^ static_cast<uint32_t>(others)));
+}
+
+// Whether no operand's pointer is null and none has gaps, with rows of so many elements.
+template <Call X>
+ZEPM_INLINE bool isDense(const X& x, int32 rowLength)
+{
+    uint32_t gaps = 0;
+    bool isNull = false;
+    x.operands([&](const auto& block) ZEPM_INLINED {
+        gaps |= block.gaps(rowLength);
+        isNull |= block.isNull();
+        return true;
+    });
+    return gaps == 0 && !isNull;
 }
 
 // ---- Arrays whose kernel is a loop over the kernel of one object ----------------------------------------------------

@@ -150,6 +150,11 @@ ZEPM_INLINE void locateObjects(const StridedView<T, Contiguous, Fixed>& view, in
     const auto first = view.object(k).p;
     if (W == 1 || Fixed)
         for (int n = 0; n < W; ++n) p[n] = first;
+    else if (size == W && A <= 2) // in registers of two the addresses take longer than one by one
+    {
+        ZEPM_UNROLL
+        for (int n = 0; n < W; ++n) p[n] = first + n * view.stride0;
+    }
     else if (size == W)
     {
         const auto steps = eachLane<ptrdiff_t, A>([&](int n) ZEPM_INLINED { return n * view.stride0; });

@@ -189,6 +189,7 @@ struct Block
     ZEPM_INLINE bool stridesValid() const { return true; }
     ZEPM_INLINE bool shiftValid() const { return true; }
     ZEPM_INLINE bool contiguous() const { return true; }
+    ZEPM_INLINE uint32_t gaps(int32) const { return 0; }
 };
 
 // The strides from object to object and from row to row, of the operands that have them. The others do not store any:
@@ -246,6 +247,15 @@ struct StridedBlock : Block<T>, ObjectStride<IsArray>, RowStride<Rank>
                validStride<T>(stride2);
     }
     ZEPM_INLINE bool contiguous() const { return stride2 == sizeof(T); }
+    // 0 if the elements are contiguous and each row of so many begins where the one before ends.
+    ZEPM_INLINE uint32_t gaps(int32 rowLength) const
+    {
+        const uint32_t between = static_cast<uint32_t>(stride2) ^ sizeof(T);
+        if constexpr (Rank == 1)
+            return between;
+        else
+            return between | (static_cast<uint32_t>(stride1) ^ static_cast<uint32_t>(rowLength) * sizeof(T));
+    }
     ZEPM_INLINE StridedBlock from(int32 first) const
     {
         StridedBlock share = *this;
@@ -446,6 +456,26 @@ struct TransposedBlock : Matrix
         return TransposedView<decltype(stored)>{stored};
     }
 };
+
+// What a block is, for kernels that treat some kinds in a way of their own.
+template <class>
+inline constexpr bool isConstantBlock = false;
+template <class T>
+inline constexpr bool isConstantBlock<ConstantBlock<T>> = true;
+template <class T>
+inline constexpr bool isConstantBlock<ConstantArrayBlock<T>> = true;
+template <class T>
+inline constexpr bool isConstantBlock<ConstantListBlock<T>> = true;
+
+template <class>
+inline constexpr bool isListBlock = false;
+template <class T, int Rank>
+inline constexpr bool isListBlock<ListBlock<T, Rank>> = true;
+
+template <class>
+inline constexpr bool isTransposedBlock = false;
+template <class Matrix>
+inline constexpr bool isTransposedBlock<TransposedBlock<Matrix>> = true;
 
 // The blocks under the letters of the names. In L a single operand has no table.
 template <class Layout, class Strided, class List, class Table>

@@ -135,6 +135,13 @@ ZEPM_INLINE Vec<T, N> shufflePieces(Vec<T, N> x, Vec<T, N> y)
     });
 }
 
+// Element E of each piece in all lanes of the piece.
+template <class T, int N, int E>
+ZEPM_INLINE Vec<T, N> spread(Vec<T, N> x)
+{
+    return permute<T, N>(x, [](int lane) { return lane / pieceLength<T> * pieceLength<T> + E; });
+}
+
 // In each piece, runs of Span elements of x and y by turns: of their lower halves, or of the upper ones.
 template <class T, int N, int Span, bool Upper>
 ZEPM_INLINE Vec<T, N> interleave(Vec<T, N> x, Vec<T, N> y)

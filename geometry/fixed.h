@@ -2,7 +2,7 @@
 // stored, so that a destination may be a source.
 #pragma once
 
-#include "frame/machine.h"
+#include "frame/pieces.h"
 #include "geometry/formulas.h"
 
 namespace zepm::ZEPM_LEVEL
@@ -12,15 +12,15 @@ namespace zepm::ZEPM_LEVEL
 
 // A v3 has its last element twice, so that no lane computes on anything that is not there.
 template <int N>
-using Fixed = Vec<float32, N == 2 ? 2 : 4>;
+using FixedVec = Vec<float32, N == 2 ? 2 : 4>;
 
 template <int N>
-ZEPM_INLINE Fixed<N> loadFixed(const float32* p)
+ZEPM_INLINE FixedVec<N> loadFixed(const float32* p)
 {
     if constexpr (N == 3)
     {
-        const Fixed<4> xy = _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
-        return __builtin_shufflevector(xy, Fixed<4>{load<float32>(p + 2), 0, 0, 0}, 0, 1, 4, 4);
+        const FixedVec<4> xy = loadTwo(bytes(p));
+        return __builtin_shufflevector(xy, FixedVec<4>{load<float32>(p + 2), 0, 0, 0}, 0, 1, 4, 4);
     }
     else
     {
@@ -29,40 +29,32 @@ ZEPM_INLINE Fixed<N> loadFixed(const float32* p)
 }
 
 template <int N>
-ZEPM_INLINE void storeFixed(float32* p, Fixed<N> x)
+ZEPM_INLINE void storeFixed(float32* p, FixedVec<N> x)
 {
-    if constexpr (N == 3)
-    {
-        storeVec<float32, 2>(bytes(p), Fixed<2>{x[0], x[1]});
-        store<float32>(p + 2, x[2]);
-    }
-    else
-    {
-        storeVec<float32, N>(bytes(p), x);
-    }
+    storeFirst<float32, N == 2 ? 2 : 4, N>(bytes(p), x);
 }
 
 template <int N>
-ZEPM_INLINE Fixed<N> broadcastFixed(float32 x)
+ZEPM_INLINE FixedVec<N> broadcastFixed(float32 x)
 {
     return broadcast < float32, N == 2 ? 2 : 4 > (x);
 }
 
 // The first N elements of a row.
 template <int N>
-ZEPM_INLINE Fixed<N> prefix(Fixed<4> x)
+ZEPM_INLINE FixedVec<N> prefix(FixedVec<4> x)
 {
     if constexpr (N == 2)
-        return Fixed<2>{x[0], x[1]};
+        return FixedVec<2>{x[0], x[1]};
     else
         return x;
 }
 
 // The sum of a[i] * b[i], in index order.
 template <int N>
-ZEPM_INLINE float32 dot(Fixed<N> a, Fixed<N> b)
+ZEPM_INLINE float32 dot(FixedVec<N> a, FixedVec<N> b)
 {
-    const Fixed<N> products = a * b;
+    const FixedVec<N> products = a * b;
     float32 sum = products[0];
     ZEPM_UNROLL
     for (int i = 1; i < N; ++i) sum += products[i];
@@ -70,32 +62,32 @@ ZEPM_INLINE float32 dot(Fixed<N> a, Fixed<N> b)
 }
 
 template <int N>
-ZEPM_INLINE float32 length(Fixed<N> a)
+ZEPM_INLINE float32 length(FixedVec<N> a)
 {
     return __builtin_sqrtf(dot<N>(a, a));
 }
 
 template <int N>
-ZEPM_INLINE Fixed<N> normalized(Fixed<N> a)
+ZEPM_INLINE FixedVec<N> normalized(FixedVec<N> a)
 {
     return a / broadcastFixed<N>(length<N>(a));
 }
 
 // a x b of v3: the next element of a by the one after it of b, less the same exchanged.
-ZEPM_INLINE Fixed<3> cross(Fixed<3> a, Fixed<3> b)
+ZEPM_INLINE FixedVec<3> cross(FixedVec<3> a, FixedVec<3> b)
 {
     return __builtin_shufflevector(a, a, 1, 2, 0, 0) * __builtin_shufflevector(b, b, 2, 0, 1, 1) -
            __builtin_shufflevector(a, a, 2, 0, 1, 1) * __builtin_shufflevector(b, b, 1, 2, 0, 0);
 }
 
 // The 3 by 3 minors of the rows u, v, t: number i leaves column i out, expanded along u.
-ZEPM_INLINE Fixed<4> minors(Fixed<4> u, Fixed<4> v, Fixed<4> t)
+ZEPM_INLINE FixedVec<4> minors(FixedVec<4> u, FixedVec<4> v, FixedVec<4> t)
 {
     auto minor = [&](int p, int q) ZEPM_INLINED { return v[p] * t[q] - v[q] * t[p]; };
     const float32 m01 = minor(0, 1), m02 = minor(0, 2), m03 = minor(0, 3);
     const float32 m12 = minor(1, 2), m13 = minor(1, 3), m23 = minor(2, 3);
-    return Fixed<4>{m23 * u[1] - m13 * u[2] + m12 * u[3], m23 * u[0] - m03 * u[2] + m02 * u[3],
-                    m13 * u[0] - m03 * u[1] + m01 * u[3], m12 * u[0] - m02 * u[1] + m01 * u[2]};
+    return FixedVec<4>{m23 * u[1] - m13 * u[2] + m12 * u[3], m23 * u[0] - m03 * u[2] + m02 * u[3],
+                       m13 * u[0] - m03 * u[1] + m01 * u[3], m12 * u[0] - m02 * u[1] + m01 * u[2]};
 }
 
 // ---- Matrices -------------------------------------------------------------------------------------------------------
@@ -120,18 +112,15 @@ ZEPM_INLINE void storeMatrix(float32* p, const Matrix4<float32>& m)
 ZEPM_INLINE void storeRows(float32* p, const float32 (&rows)[4][4])
 {
     ZEPM_UNROLL
-    for (int i = 0; i < 4; ++i) storeFixed<4>(p + 4 * i, Fixed<4>{rows[i][0], rows[i][1], rows[i][2], rows[i][3]});
+    for (int i = 0; i < 4; ++i) storeFixed<4>(p + 4 * i, FixedVec<4>{rows[i][0], rows[i][1], rows[i][2], rows[i][3]});
 }
 
 template <class T>
 ZEPM_INLINE Matrix4<T> transposed(const Matrix4<T>& m)
 {
-    const auto low01 = __builtin_shufflevector(m.row[0], m.row[1], 0, 4, 1, 5);
-    const auto low23 = __builtin_shufflevector(m.row[2], m.row[3], 0, 4, 1, 5);
-    const auto high01 = __builtin_shufflevector(m.row[0], m.row[1], 2, 6, 3, 7);
-    const auto high23 = __builtin_shufflevector(m.row[2], m.row[3], 2, 6, 3, 7);
-    return {{__builtin_shufflevector(low01, low23, 0, 1, 4, 5), __builtin_shufflevector(low01, low23, 2, 3, 6, 7),
-             __builtin_shufflevector(high01, high23, 0, 1, 4, 5), __builtin_shufflevector(high01, high23, 2, 3, 6, 7)}};
+    Vec<T, 4> rows[4] = {m.row[0], m.row[1], m.row[2], m.row[3]};
+    transpose<T, 4>(rows);
+    return {{rows[0], rows[1], rows[2], rows[3]}};
 }
 
 template <int Lane, class T>
@@ -155,12 +144,12 @@ ZEPM_INLINE Matrix4<float32> product(const Matrix4<float32>& a, const Matrix4<fl
 
 // The formula with whole rows for elements: a result of fewer than four elements has anything behind them.
 template <class Formula>
-ZEPM_INLINE Fixed<4> transformed(const Matrix4<float32>& m, Fixed<Formula::in> point)
+ZEPM_INLINE FixedVec<4> transformed(const Matrix4<float32>& m, FixedVec<Formula::in> point)
 {
     float32 p[Formula::in];
     ZEPM_UNROLL
     for (int i = 0; i < Formula::in; ++i) p[i] = point[i];
-    const Fixed<4> result = Formula::element(m.row, p);
+    const FixedVec<4> result = Formula::element(m.row, p);
     if constexpr (Formula::divides)
         return result / lane4<3, float32>(result);
     else

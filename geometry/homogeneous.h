@@ -8,7 +8,6 @@ namespace zepm
 
 struct Mva3DH
 {
-    static constexpr bool lightWork = true;
     static constexpr bool canFail = true;
     m<const float32, S> src1;
     va<const float32, S> src2;
@@ -22,6 +21,7 @@ struct Mva3DH
     }
     // Three elements read, three written for each point.
     ZEPM_INLINE int32 estimate() const { return (Work(6) * count).estimate(); }
+    ZEPM_INLINE static int32 weight() { return 2; }
     ZEPM_INLINE Mva3DH share(int32 first, int32 n) const { return {src1, src2.from(first), dst.from(first), n}; }
 };
 

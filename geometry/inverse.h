@@ -13,7 +13,7 @@ inline constexpr T leastDeterminant = static_cast<T>(sizeof(T) == 4 ? 0x1p-119 :
 // float32: the 12-bit estimate and one Newton step.
 ZEPM_INLINE float32 reciprocal(float32 x)
 {
-    const float32 q = _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(x)));
+    const float32 q = reciprocalEstimate(x);
     return q + q - x * (q * q);
 }
 ZEPM_INLINE float64 reciprocal(float64 x) { return 1 / x; }
@@ -29,21 +29,21 @@ struct TwoRows
     ZEPM_INLINE TwoRows(Vec<T, 4> x, Vec<T, 4> y)
     {
         if constexpr (parts == 1)
-            part[0] = __builtin_shufflevector(x, y, 0, 1, 2, 3, 4, 5, 6, 7);
+            part[0] = join<T, 4>(x, y);
         else
             part[0] = x, part[1] = y;
     }
     ZEPM_INLINE Vec<T, 4> first() const
     {
         if constexpr (parts == 1)
-            return __builtin_shufflevector(part[0], part[0], 0, 1, 2, 3);
+            return half<T, 8, 0>(part[0]);
         else
             return part[0];
     }
     ZEPM_INLINE Vec<T, 4> second() const
     {
         if constexpr (parts == 1)
-            return __builtin_shufflevector(part[0], part[0], 4, 5, 6, 7);
+            return half<T, 8, 1>(part[0]);
         else
             return part[1];
     }
@@ -53,11 +53,7 @@ struct TwoRows
 template <int By, class T, int N>
 ZEPM_INLINE Vec<T, N> rotated(Vec<T, N> x)
 {
-    struct Place
-    {
-        constexpr int operator()(int lane) const { return lane / 4 * 4 + (lane + By) % 4; }
-    };
-    return permute<T, N>(x, Place{});
+    return permute<T, N>(x, [](int lane) { return lane / 4 * 4 + (lane + By) % 4; });
 }
 
 // The 2 by 2 minors of two rows: lane c holds that of columns c and c + 1, or c and c + 2.
@@ -71,7 +67,7 @@ struct Minors
     {
     }
     // The 3 by 3 minors of row r before these two: lane c holds that of columns c + 1, c + 2, c + 3.
-    ZEPM_INLINE Vec<T, N> behind(Vec<T, N> r) const
+    ZEPM_INLINE Vec<T, N> withRow(Vec<T, N> r) const
     {
         return rotated<1, T, N>(r) * rotated<2, T, N>(next) - rotated<2, T, N>(r) * rotated<1, T, N>(second) +
                rotated<3, T, N>(r) * rotated<1, T, N>(next);
@@ -86,8 +82,7 @@ struct Cofactors
 
     ZEPM_INLINE explicit Cofactors(const Matrix4<T>& m)
     {
-        // Columns c + 1, c + 2, c + 3 modulo 4, and rows where they are not in order, are so but for an even
-        // permutation: what is left out is the alternating sign.
+        // The columns are taken cyclically; the permutation is even, so only the sign (-1)^(r + c) is still missing.
         const TwoRows<T> a(m.row[2], m.row[0]), b(m.row[3], m.row[1]);
         const TwoRows<T> r1r3(m.row[1], m.row[3]), r0r2(m.row[0], m.row[2]);
         TwoRows<T> c02, c13;
@@ -95,8 +90,8 @@ struct Cofactors
         for (int i = 0; i < TwoRows<T>::parts; ++i)
         {
             const Minors<T, TwoRows<T>::N> minors(a.part[i], b.part[i]);
-            c02.part[i] = minors.behind(r1r3.part[i]);
-            c13.part[i] = minors.behind(r0r2.part[i]);
+            c02.part[i] = minors.withRow(r1r3.part[i]);
+            c13.part[i] = minors.withRow(r0r2.part[i]);
         }
         c = {{c02.first(), c13.first(), c02.second(), c13.second()}};
 

@@ -8,7 +8,7 @@ using namespace zepm;
 Status zepmDet_m4_32f(const float32* pSrc, float32* pDst)
 {
     const baseline::Matrix4<float32> m = baseline::loadMatrix(pSrc);
-    const baseline::Fixed<4> products = m.row[0] * baseline::minors(m.row[1], m.row[2], m.row[3]);
+    const baseline::FixedVec<4> products = m.row[0] * baseline::minors(m.row[1], m.row[2], m.row[3]);
     store<float32>(pDst, products[0] - products[1] + products[2] - products[3]);
     return stsOk;
 }

@@ -1,6 +1,6 @@
 // Inverses of 4 by 4 matrices.
-#include "geometry/m4.h"
 #include "geometry/inverse.h"
+#include "geometry/m4.h"
 
 namespace zepm::ZEPM_LEVEL
 {
@@ -29,7 +29,7 @@ Status invertInFloat64(const float32* pSrc, float32* pDst)
     if (cofactors.isSingular()) return stsSingularErr;
     const Matrix4<float64> inverse = cofactors.inverse();
     ZEPM_UNROLL
-    for (int i = 0; i < 4; ++i) storeFixed<4>(pDst + 4 * i, __builtin_convertvector(inverse.row[i], Fixed<4>));
+    for (int i = 0; i < 4; ++i) storeFixed<4>(pDst + 4 * i, __builtin_convertvector(inverse.row[i], FixedVec<4>));
     return stsOk;
 }
 

@@ -11,14 +11,14 @@ namespace
 {
 
 // forward: the view's z axis, not yet of unit length.
-ZEPM_INLINE Status lookAlong(Fixed<3> forward, Fixed<3> eye, Fixed<3> up, float32* pDst)
+ZEPM_INLINE Status lookAlong(FixedVec<3> forward, FixedVec<3> eye, FixedVec<3> up, float32* pDst)
 {
-    const Fixed<3> zax = normalized<3>(forward);
-    const Fixed<3> xax = normalized<3>(cross(up, zax));
-    const Fixed<3> yax = cross(zax, xax);
+    const FixedVec<3> zax = normalized<3>(forward);
+    const FixedVec<3> xax = normalized<3>(cross(up, zax));
+    const FixedVec<3> yax = cross(zax, xax);
     Matrix4<float32> view = transposed(Matrix4<float32>{{xax, yax, zax, {}}});
     // The products of the three axes and the eye, each in index order.
-    const Fixed<4> dots = view.row[0] * eye[0] + view.row[1] * eye[1] + view.row[2] * eye[2];
+    const FixedVec<4> dots = view.row[0] * eye[0] + view.row[1] * eye[1] + view.row[2] * eye[2];
     view.row[3] = 0.0f - dots;
     view.row[3][3] = 1;
     storeMatrix(pDst, view);
@@ -37,13 +37,13 @@ ZEPM_INLINE float32 cotangentOfHalf(float32 angle)
 
 Status zepmLookAtLH_m4_32f(const float32* pEye, const float32* pAt, const float32* pUp, float32* pDst)
 {
-    const Fixed<3> eye = loadFixed<3>(pEye);
+    const FixedVec<3> eye = loadFixed<3>(pEye);
     return lookAlong(loadFixed<3>(pAt) - eye, eye, loadFixed<3>(pUp), pDst);
 }
 
 Status zepmLookAtRH_m4_32f(const float32* pEye, const float32* pAt, const float32* pUp, float32* pDst)
 {
-    const Fixed<3> eye = loadFixed<3>(pEye);
+    const FixedVec<3> eye = loadFixed<3>(pEye);
     return lookAlong(eye - loadFixed<3>(pAt), eye, loadFixed<3>(pUp), pDst);
 }
 

@@ -53,7 +53,7 @@ Status zepmRotationAxis_v3m4_32f(const float32* pAxis, float32 angle, float32* p
 {
     const SineCosine a(angle);
     const float32 s = a.sine, c = a.cosine, q = 1 - c;
-    const Fixed<3> axis = normalized<3>(loadFixed<3>(pAxis));
+    const FixedVec<3> axis = normalized<3>(loadFixed<3>(pAxis));
     const float32 x = axis[0], y = axis[1], z = axis[2];
     const float32 qx = q * x, qy = q * y, qz = q * z;
     storeRows(pDst, {{qx * x + c, qy * x + s * z, qz * x - s * y, 0},

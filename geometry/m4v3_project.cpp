@@ -33,10 +33,10 @@ struct CombinedInverse
 Status zepmProject_m4v3_32f(const float32* pProj, const float32* pView, const float32* pWorld, const float32* pSrc,
                             float32 vpWidth, float32 vpHeight, float32 zMin, float32 zMax, float32* pDst)
 {
-    const Fixed<4> inWorld = transformed<Affine<3>>(loadMatrix(pWorld), loadFixed<3>(pSrc));
-    const Fixed<4> inView = transformed<Affine<4>>(loadMatrix(pView), inWorld);
-    const Fixed<4> p = transformed<Affine<4>>(loadMatrix(pProj), inView);
-    const Fixed<4> inCube = p / lane4<3, float32>(p);
+    const FixedVec<4> inWorld = transformed<Affine<3>>(loadMatrix(pWorld), loadFixed<3>(pSrc));
+    const FixedVec<4> inView = transformed<Affine<4>>(loadMatrix(pView), inWorld);
+    const FixedVec<4> p = transformed<Affine<4>>(loadMatrix(pProj), inView);
+    const FixedVec<4> inCube = p / lane4<3, float32>(p);
     const ToViewport viewport(vpWidth, vpHeight, zMin, zMax);
     for (int i = 0; i < 3; ++i) store<float32>(pDst + i, viewport.element(i, inCube[i]));
     return stsOk;
@@ -61,7 +61,7 @@ Status zepmUnproject_m4v3_32f(const float32* pProj, const float32* pView, const 
     float32 n[3];
     FromViewport(vpWidth, vpHeight, zMin, zMax).apply(point, n);
     const CombinedInverse inverse(pProj, pView, pWorld);
-    const Fixed<3> inCube{n[0], n[1], n[2], n[2]};
+    const FixedVec<3> inCube{n[0], n[1], n[2], n[2]};
     storeFixed<3>(pDst, inverse.status ? inCube : transformed<Coord<3>>(loadMatrix(inverse.e), inCube));
     return inverse.status;
 }

@@ -12,7 +12,7 @@ namespace
 template <class Formula>
 ZEPM_INLINE Status transformOne(const float32* pSrc1, const float32* pSrc2, float32* pDst)
 {
-    const Fixed<4> result = transformed<Formula>(loadMatrix(pSrc1), loadFixed<Formula::in>(pSrc2));
+    const FixedVec<4> result = transformed<Formula>(loadMatrix(pSrc1), loadFixed<Formula::in>(pSrc2));
     storeFixed<Formula::out>(pDst, prefix<Formula::out>(result));
     return stsOk;
 }

@@ -2,7 +2,7 @@
 // point sees the operations of the formula in their order, whatever it goes with.
 #include "frame/streams.h"
 #include "geometry/points.h"
-#include "geometry/tile.h"
+#include "geometry/points_in_lanes.h"
 
 namespace zepm::ZEPM_LEVEL
 {
@@ -13,15 +13,12 @@ namespace
 using Source = PointArray<const float32>;
 using Destination = PointArray<float32>;
 
-ZEPM_INLINE bool allOf(int isRegular) { return isRegular; }
-ZEPM_INLINE bool allOf(Vec<int32, 4> isRegular) { return _mm_movemask_ps(reinterpret_cast<Lanes<4>>(isRegular)) == 15; }
+// Whether the formula succeeded: on one point, or in all lanes.
+ZEPM_INLINE bool inAll(int isRegular) { return isRegular; }
 template <class Mask>
-ZEPM_INLINE bool allOf(Mask isRegular)
+ZEPM_INLINE bool inAll(Mask isRegular)
 {
-    constexpr int N = sizeof(Mask) / 4;
-    using Half = Vec<int32, N / 2>;
-    const auto lanes = reinterpret_cast<Lanes<N>>(isRegular);
-    return allOf(reinterpret_cast<Half>(halfOf<N, 0>(lanes)) & reinterpret_cast<Half>(halfOf<N, 1>(lanes)));
+    return allOf(isRegular);
 }
 
 // The formula on points in registers; whether it succeeded on all.
@@ -35,7 +32,7 @@ ZEPM_INLINE bool applied(const Formula& formula, const V (&p)[Formula::in], V (&
     }
     else
     {
-        return allOf(formula.apply(p, d));
+        return inAll(formula.apply(p, d));
     }
 }
 
@@ -55,7 +52,8 @@ template <class Formula>
 }
 
 template <class Formula, class From, class To>
-[[gnu::noinline]] bool tiles(const Formula& given, Source src, Destination dst, From from, To to, ptrdiff_t count)
+[[gnu::noinline]] bool pointsTogether(const Formula& given, Source src, Destination dst, From from, To to,
+                                      ptrdiff_t count)
 {
     const Formula formula = given;
     bool ok = true;
@@ -63,7 +61,7 @@ template <class Formula, class From, class To>
     auto whole = [&]<int N>(std::integral_constant<int, N>) ZEPM_INLINED {
         for (; k + N <= count; k += N)
         {
-            Lanes<N> p[Formula::in], d[Formula::out];
+            Vec<float32, N> p[Formula::in], d[Formula::out];
             from.template load<Formula::in, N>(src.at(k), p);
             ok &= applied(formula, p, d);
             to.template store<Formula::out, N>(dst.at(k), d);
@@ -76,47 +74,43 @@ template <class Formula, class From, class To>
 
 // ---- Results of four elements ---------------------------------------------------------------------------------------
 
-// Points of Size elements side by side, one in each group. Reads a register in full.
+// Points of three elements without gaps, one in each piece. Reads a register in full.
 template <int N>
-ZEPM_INLINE Lanes<N> loadDense3(const char* p)
+ZEPM_INLINE Vec<float32, N> loadDense3(const char* p)
 {
-    struct Place
-    {
-        constexpr int operator()(int lane) const { return lane / 4 * 3 + lane % 4 - lane % 4 / 3; }
-    };
-    return permute<float32, N>(loadVec<float32, N>(p), Place{});
+    return permute<float32, N>(loadVec<float32, N>(p), [](int lane) { return lane / 4 * 3 + lane % 4 - lane % 4 / 3; });
 }
 
-// A result is a group, and so is each row of the matrix: no transposition. The steps are strides that are known, or 0:
-// 12 of three elements without gaps, 16 of records.
+// Results of four elements: a result is one piece, and so is each row of the matrix, so nothing is transposed. The steps
+// are the strides if they are known at compile time (12: three elements without gaps, 16: records), else 0.
 template <int SrcStep, int DstStep, class Formula>
 [[gnu::noinline]] bool rowwise(const Through<Formula>& formula, Source src, Destination dst, ptrdiff_t count)
 {
-    constexpr int N = lanes<float32>, groups = N / 4, in = Formula::in;
-    constexpr int atOnce = 4 * groups, further = SrcStep == 12 ? (groups + 2) / 3 : 0; // points, points read in part
-    Lanes<N> rows[4];
+    constexpr int N = lanes<float32>, pieces = N / 4, in = Formula::in;
+    constexpr int atOnce = 4 * pieces, further = SrcStep == 12 ? (pieces + 2) / 3 : 0; // points, points read in part
+    Vec<float32, N> rows[4];
     ZEPM_UNROLL
-    for (int i = 0; i < 4; ++i) rows[i] = repeatedGroup<N>(formula.e + 4 * i);
+    for (int i = 0; i < 4; ++i) rows[i] = repeat<float32, 4, pieces>(loadVec<float32, 4>(bytes(formula.e + 4 * i)));
     ptrdiff_t k = 0;
     for (; k + atOnce + further <= count; k += atOnce)
     {
         ZEPM_UNROLL
-        for (int step = 0; step < atOnce; step += groups)
+        for (int step = 0; step < atOnce; step += pieces)
         {
             const char* const from = src.at(k) + step * (SrcStep ? SrcStep : src.stride);
             char* const to = dst.at(k) + step * (DstStep ? DstStep : dst.stride);
-            Lanes<N> points, p[in];
+            Vec<float32, N> points, p[in];
             if constexpr (SrcStep == 12)
                 points = loadDense3<N>(from);
             else if constexpr (SrcStep == 16)
                 points = loadRecords<in, N>(from);
             else
                 points = loadPoints<in, N>(from, src.stride);
-            p[0] = spread<N, 0>(points);
-            p[1] = spread<N, 1>(points);
-            if constexpr (in > 2) p[2] = spread<N, 2>(points);
-            if constexpr (in > 3) p[3] = spread<N, 3>(points);
-            const Lanes<N> d = Formula::element(rows, p);
+            p[0] = spread<float32, N, 0>(points);
+            p[1] = spread<float32, N, 1>(points);
+            if constexpr (in > 2) p[2] = spread<float32, N, 2>(points);
+            if constexpr (in > 3) p[3] = spread<float32, N, 3>(points);
+            const Vec<float32, N> d = Formula::element(rows, p);
             if constexpr (DstStep == 16)
                 storeRecords<4, N>(to, d);
             else
@@ -128,14 +122,14 @@ template <int SrcStep, int DstStep, class Formula>
 
 // ---- Overlap --------------------------------------------------------------------------------------------------------
 
-ZEPM_INLINE ptrdiff_t magnitude(ptrdiff_t x) { return x < 0 ? -x : x; }
+ZEPM_INLINE ptrdiff_t distance(ptrdiff_t x) { return x < 0 ? -x : x; }
 
 // The bytes from the lowest to behind the highest.
-struct Extent
+struct ByteRange
 {
     uintptr_t begin, end;
     template <class T>
-    ZEPM_INLINE Extent(const PointArray<T>& a, int size, ptrdiff_t count)
+    ZEPM_INLINE ByteRange(const PointArray<T>& a, int size, ptrdiff_t count)
     {
         const auto first = reinterpret_cast<uintptr_t>(a.p);
         const ptrdiff_t last = (count - 1) * a.stride;
@@ -150,8 +144,8 @@ template <class T>
 ZEPM_INLINE bool isDisjoint(const PointArray<T>& a, int size, ptrdiff_t count)
 {
     const ptrdiff_t pointSize = (size - 1) * a.elementStride + static_cast<ptrdiff_t>(sizeof(T));
-    return magnitude(a.stride) >= pointSize ||
-           (magnitude(a.stride) == sizeof(T) && a.elementStride >= count * static_cast<ptrdiff_t>(sizeof(T)));
+    return distance(a.stride) >= pointSize ||
+           (distance(a.stride) == sizeof(T) && a.elementStride >= count * static_cast<ptrdiff_t>(sizeof(T)));
 }
 
 // Whether the order of the points plays no part: no result is the source of another point.
@@ -161,7 +155,7 @@ ZEPM_INLINE bool isFree(const Source& src, const Destination& dst, ptrdiff_t cou
     constexpr int size = Formula::in > Formula::out ? Formula::in : Formula::out;
     if (src.p == dst.p && src.stride == dst.stride && src.elementStride == dst.elementStride)
         return isDisjoint(dst, size, count);
-    const Extent from(src, Formula::in, count), to(dst, Formula::out, count);
+    const ByteRange from(src, Formula::in, count), to(dst, Formula::out, count);
     return isDisjoint(dst, Formula::out, count) && (from.end <= to.begin || to.end <= from.begin);
 }
 
@@ -185,16 +179,19 @@ template <class Formula>
         else
         {
             if (src.stride == Formula::in * sz && dst.stride == Formula::out * sz)
-                return tiles(formula, src, dst, Dense{}, Dense{}, count);
+                return pointsTogether(formula, src, dst, PointsDense{}, PointsDense{}, count);
             if (src.stride == recordSize && dst.stride == recordSize)
-                return tiles(formula, src, dst, Apart<true>{recordSize}, Apart<true>{recordSize}, count);
-            return tiles(formula, src, dst, Apart<false>{src.stride}, Apart<false>{dst.stride}, count);
+                return pointsTogether(formula, src, dst, PointsApart<true>{recordSize}, PointsApart<true>{recordSize},
+                                      count);
+            return pointsTogether(formula, src, dst, PointsApart<false>{src.stride}, PointsApart<false>{dst.stride},
+                                  count);
         }
     }
     if constexpr (std::is_same_v<Formula, Homogeneous>) // the one with element strides
     {
         if (src.stride == sz && dst.stride == sz)
-            return tiles(formula, src, dst, Across{src.elementStride}, Across{dst.elementStride}, count);
+            return pointsTogether(formula, src, dst, PointsAcross{src.elementStride}, PointsAcross{dst.elementStride},
+                                  count);
     }
     return onePerStep(formula, src, dst, 0, count);
 }

@@ -12,14 +12,14 @@ template <int N>
 ZEPM_INLINE Status baryCentric(const float32* pSrc1, const float32* pSrc2, const float32* pSrc3, float32 val1,
                                float32 val2, float32* pDst)
 {
-    const Fixed<N> a = loadFixed<N>(pSrc1), b = loadFixed<N>(pSrc2), c = loadFixed<N>(pSrc3);
+    const FixedVec<N> a = loadFixed<N>(pSrc1), b = loadFixed<N>(pSrc2), c = loadFixed<N>(pSrc3);
     storeFixed<N>(pDst, (b - a) * broadcastFixed<N>(val1) + a + (c - a) * broadcastFixed<N>(val2));
     return stsOk;
 }
 
 // From a with tangent b to c with tangent d.
 template <int N>
-ZEPM_INLINE Fixed<N> hermite(Fixed<N> a, Fixed<N> b, Fixed<N> c, Fixed<N> d, float32 t)
+ZEPM_INLINE FixedVec<N> hermite(FixedVec<N> a, FixedVec<N> b, FixedVec<N> c, FixedVec<N> d, float32 t)
 {
     const float32 square = t * t;
     const float64 t1 = t, t2 = square, t3 = square * t; // float32 powers, float64 coefficients
@@ -42,9 +42,9 @@ template <int N>
 ZEPM_INLINE Status catmullRom(const float32* pSrc1, const float32* pSrc2, const float32* pSrc3, const float32* pSrc4,
                               float32 val, float32* pDst)
 {
-    const Fixed<N> a = loadFixed<N>(pSrc1), b = loadFixed<N>(pSrc2);
-    const Fixed<N> c = loadFixed<N>(pSrc3), d = loadFixed<N>(pSrc4);
-    const Fixed<N> half = broadcastFixed<N>(0.5f);
+    const FixedVec<N> a = loadFixed<N>(pSrc1), b = loadFixed<N>(pSrc2);
+    const FixedVec<N> c = loadFixed<N>(pSrc3), d = loadFixed<N>(pSrc4);
+    const FixedVec<N> half = broadcastFixed<N>(0.5f);
     storeFixed<N>(pDst, hermite<N>(b, (c - a) * half, c, (d - b) * half, val));
     return stsOk;
 }
@@ -52,7 +52,7 @@ ZEPM_INLINE Status catmullRom(const float32* pSrc1, const float32* pSrc2, const 
 template <int N>
 ZEPM_INLINE Status linear(const float32* pSrc1, const float32* pSrc2, float32 val, float32* pDst)
 {
-    const Fixed<N> a = loadFixed<N>(pSrc1), b = loadFixed<N>(pSrc2);
+    const FixedVec<N> a = loadFixed<N>(pSrc1), b = loadFixed<N>(pSrc2);
     storeFixed<N>(pDst, a + (b - a) * broadcastFixed<N>(val));
     return stsOk;
 }

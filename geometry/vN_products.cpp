@@ -60,7 +60,7 @@ Status zepmNormalize_v4_32f(const float32* pSrc, float32* pDst) { return normali
 
 Status zepmCrossProduct_v2_32f(const float32* pSrc1, const float32* pSrc2, float32* pDst)
 {
-    const Fixed<2> a = loadFixed<2>(pSrc1), b = loadFixed<2>(pSrc2);
+    const FixedVec<2> a = loadFixed<2>(pSrc1), b = loadFixed<2>(pSrc2);
     store<float32>(pDst, a[0] * b[1] - a[1] * b[0]);
     return stsOk;
 }
@@ -73,7 +73,7 @@ Status zepmCrossProduct_v3_32f(const float32* pSrc1, const float32* pSrc2, float
 
 Status zepmCrossProduct_v4_32f(const float32* pSrc1, const float32* pSrc2, const float32* pSrc3, float32* pDst)
 {
-    const Fixed<4> m = minors(loadFixed<4>(pSrc1), loadFixed<4>(pSrc2), loadFixed<4>(pSrc3));
-    storeFixed<4>(pDst, Fixed<4>{m[0], 0 - m[1], m[2], 0 - m[3]});
+    const FixedVec<4> m = minors(loadFixed<4>(pSrc1), loadFixed<4>(pSrc2), loadFixed<4>(pSrc3));
+    storeFixed<4>(pDst, FixedVec<4>{m[0], 0 - m[1], m[2], 0 - m[3]});
     return stsOk;
 }

@@ -6,11 +6,6 @@
 namespace zepm
 {
 
-template <class>
-inline constexpr bool isTransposed = false;
-template <class Matrix>
-inline constexpr bool isTransposed<TransposedBlock<Matrix>> = true;
-
 // A source with its sizes, which are those of the matrix as it is stored.
 template <class Matrix>
 struct Factor : Matrix
@@ -23,7 +18,7 @@ struct Factor : Matrix
 template <class Src1, class Src2, class Dst>
 struct Products
 {
-    static constexpr bool transposes1 = isTransposed<Src1>, transposes2 = isTransposed<Src2>;
+    static constexpr bool transposes1 = isTransposedBlock<Src1>, transposes2 = isTransposedBlock<Src2>;
     Factor<Src1> src1;
     Factor<Src2> src2;
     Dst dst;
@@ -51,6 +46,7 @@ struct Products
         const Work of2 = Work(src2.width) * src2.height * (Src2::isArray ? count : 1);
         return (of1 + of2 + Work(rows()) * cols() * count).estimate();
     }
+    ZEPM_INLINE int32 weight() const { return 2 + inner() / 4; }
     // Object k alone.
     template <class One>
     ZEPM_INLINE One object(int32 k) const

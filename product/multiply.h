@@ -91,41 +91,58 @@ ZEPM_INLINE int32 firstRowInPairs(const X& x)
     return left <= most ? x.rows() - left : x.rows();
 }
 
-template <class T, bool IsArray>
-ZEPM_INLINE MatrixOperand matrixOf(const StridedBlock<T, IsArray, 2>& block)
+template <class Block>
+ZEPM_INLINE MatrixSequence matricesOf(const Block& block)
 {
-    return {bytes(block.p), block.stride0, block.stride1, !IsArray};
+    return {sequenceOf(block), block.stride1};
 }
-template <class T>
-ZEPM_INLINE MatrixOperand matrixOf(const ListBlock<T, 2>& block)
-{
-    return {reinterpret_cast<const char*>(block.pp), block.roiShift, block.stride1, false};
-}
-
-template <class>
-inline constexpr bool isList = false;
-template <class T>
-inline constexpr bool isList<ListBlock<T, 2>> = true;
 
 template <class X>
 [[gnu::noinline]] Status multiplyWide(const X& x, int32 order)
 {
     using Dst = decltype(x.dst);
     ZEPM_AT_LEVEL(multiplyMatrices<typename Dst::Element, X::transposes1, X::transposes2>)
-    ({matrixOf(x.src1), matrixOf(x.src2), matrixOf(x.dst), isList<Dst>, x.count, order, x.rows(), x.inner(), x.cols(),
-      firstRowInPairs(x)});
-}
-
-template <int Order, class X>
-ZEPM_INLINE Status multiplyPair(const X& x)
-{
-    baseline::multiplyPair<typename decltype(x.dst)::Element, Order, X::transposes1, X::transposes2>(
-        matrixOf(x.src1), matrixOf(x.src2), matrixOf(x.dst));
+    ({matricesOf(x.src1), matricesOf(x.src2), matricesOf(x.dst), isListBlock<Dst>, x.count, order, x.rows(), x.inner(),
+      x.cols(), firstRowInPairs(x)});
     return stsOk;
 }
 
-// Contiguous elements. One pair of an order goes without the choice of a level, which would cost as much as the
-// product.
+// One pair of an order goes without the choice of a level, which would cost as much as the product. Orders 3 and 4 are
+// held in registers, so that the destination may be a source.
+template <int Order, bool Solid, class X>
+ZEPM_INLINE void multiplyOnePair(const X& x)
+{
+    using T = typename decltype(x.dst)::Element;
+    const auto a = matricesOf(x.src1), b = matricesOf(x.src2), d = matricesOf(x.dst);
+    if constexpr (Order <= 4)
+        ZEPM_LEVEL::multiplyHeldPair<T, Order, X::transposes1, X::transposes2, Solid>(a, b, d);
+    else
+        ZEPM_LEVEL::multiplyPair<T, Order, X::transposes1, X::transposes2, Solid>(a, b, d);
+}
+
+// Serves pairs of the orders written out, without gaps; false where x is another call.
+template <class X, class Orders>
+ZEPM_INLINE bool multiplyIfSmall(const X& x, Orders written)
+{
+    const int32 n = x.src1.width;
+    if (differences(n, x.src1.height, x.src2.width, x.src2.height) != 0 || !isDense(x, n)) return false;
+    return forSize(
+        n, written,
+        [&]<int32 Order>() ZEPM_INLINED {
+            multiplyOnePair<Order, true>(x);
+            return true;
+        },
+        []() ZEPM_INLINED { return false; });
+}
+
+// What enterQuick takes for single pairs.
+template <class Orders>
+ZEPM_INLINE auto smallPair(Orders written)
+{
+    return [written](const auto& x) ZEPM_INLINED { return multiplyIfSmall(x, written); };
+}
+
+// Contiguous elements.
 template <class X, class Orders>
 ZEPM_INLINE Status multiplyPacked(const X& x, Orders written)
 {
@@ -133,7 +150,11 @@ ZEPM_INLINE Status multiplyPacked(const X& x, Orders written)
     if constexpr (!decltype(x.dst)::isArray)
     {
         return forSize(
-            order, sizes<3, 4, 5, 6>{}, [&]<int32 Order>() ZEPM_INLINED { return multiplyPair<Order>(x); },
+            order, sizes<3, 4, 5, 6>{},
+            [&]<int32 Order>() ZEPM_INLINED {
+                isDense(x, Order) ? multiplyOnePair<Order, true>(x) : multiplyOnePair<Order, false>(x);
+                return Status{stsOk};
+            },
             [&]() ZEPM_INLINED { return multiplyWide(x, order); });
     }
     else

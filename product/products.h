@@ -3,25 +3,21 @@
 #pragma once
 
 #include "frame/levels.h"
+#include "frame/sequence.h"
 
 namespace zepm
 {
 
-// Where the matrices of one operand lie: object k at p + k * step or, in a list, at entry k of the table p plus step; a
-// fixed operand, the same for every object, at p. Rows are stride1 apart.
-struct MatrixOperand
+// The matrices of one operand, whose rows are stride1 apart.
+struct MatrixSequence : Sequence
 {
-    const char* p;
-    ptrdiff_t step, stride1;
-    bool isFixed;
-
-    ZEPM_INLINE ptrdiff_t toNext() const { return isFixed ? 0 : step; }
+    ptrdiff_t stride1;
 };
 
 // d = a * b on count objects: rows of cols sums over inner products.
 struct ProductCall
 {
-    MatrixOperand a, b, d;
+    MatrixSequence a, b, d;
     bool isList;
     ptrdiff_t count;
     int32 order; // of all sizes, 3 to 6, with sums from the first product; 0: sums from zero

@@ -2,7 +2,6 @@
 // register has lanes go together, one element in each of three registers.
 #pragma once
 
-#include "frame/dense.h"
 #include "frame/streams.h"
 #include "product/products.h"
 
@@ -22,7 +21,7 @@ template <int N, bool Streams = false>
 ZEPM_INLINE void multiplyRows(const float32 (&e)[3][3], const char*& a, char*& d, ptrdiff_t& rows)
 {
     if (rows < N) return;
-    Lanes<N> repeated[3][3];
+    Vec<float32, N> repeated[3][3];
     ZEPM_UNROLL
     for (int k = 0; k < 3; ++k)
         for (int j = 0; j < 3; ++j) repeated[k][j] = broadcast<float32, N>(e[k][j]);
@@ -30,10 +29,10 @@ ZEPM_INLINE void multiplyRows(const float32 (&e)[3][3], const char*& a, char*& d
     for (; rows >= N; rows -= N)
     {
         if (Streams) ahead.from(a);
-        Lanes<N> x[3], y[3];
-        Dense{}.template load<3, N>(a, x);
+        Vec<float32, N> x[3], y[3];
+        loadDense<float32, N, 3>(a, x);
         multiplyRow(x, repeated, y);
-        Dense{}.template store<3, N, Streams>(d, y);
+        storeDense<float32, N, 3, Streams>(d, y);
         a += 12 * N, d += 12 * N;
     }
 }

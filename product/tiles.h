@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/streams.h"
+#include "frame/sums.h"
 #include "product/wide.h"
 
 namespace zepm::ZEPM_LEVEL
@@ -65,7 +66,7 @@ private:
             {
                 Vec<T, N> rows[E];
                 each<E>([&]<int S>() ZEPM_INLINED {
-                    rows[S] = joinBlocks<T, E, N / E>(
+                    rows[S] = joinParts<T, E, N / E>(
                         [&]<int G>() ZEPM_INLINED { return loadVec<T, E>(p + (G * E + S) * stride1 + k * sz<T>); });
                 });
                 transposePieces<T, N>(rows);
@@ -77,21 +78,23 @@ private:
     }
 };
 
-// ---- Tiles ----------------------------------------------------------------------------------------------------------
+// ---- ProductTiles
+// ----------------------------------------------------------------------------------------------------------
 
 // Some columns of one object's result, and the first factor.
-struct Tiles
+struct ProductTiles
 {
     const char* a;
     ptrdiff_t stride1A;
     char* d;
     ptrdiff_t stride1D;
-    ptrdiff_t rows, firstInPairs, inner;
+    ptrdiff_t rows, firstInPairs;
+    int32 inner;
 };
 
 // Height rows of the result from row i on.
 template <class T, bool Transposes1, int N, int Count, int Vectors, int Height, class B>
-ZEPM_INLINE void tile(const Tiles x, const B& b, ptrdiff_t i)
+ZEPM_INLINE void tile(const ProductTiles x, const B& b, ptrdiff_t i)
 {
     const char* a[Height];
     each<Height>([&]<int I>()
@@ -116,26 +119,17 @@ ZEPM_INLINE void tile(const Tiles x, const B& b, ptrdiff_t i)
 
 // One row that sums even and odd products apart.
 template <class T, bool Transposes1, int N, int Count, int V, class B>
-ZEPM_INLINE void rowInPairs(const Tiles x, const B& b, ptrdiff_t i)
+ZEPM_INLINE void rowInPairs(const ProductTiles x, const B& b, ptrdiff_t i)
 {
-    auto product = [&](ptrdiff_t k) ZEPM_INLINED {
+    const auto product = [&](int32 k) ZEPM_INLINED {
         const char* const a = Transposes1 ? x.a + k * x.stride1A + i * sz<T> : x.a + i * x.stride1A + k * sz<T>;
-        return broadcast<T, N>(load<T>(a)) * b.template get<V>(k);
+        return Vec<T, N>(broadcast<T, N>(load<T>(a)) * b.template get<V>(k));
     };
-    Vec<T, N> even{}, odd{};
-    ptrdiff_t k = 0;
-    for (; k + 2 <= x.inner; k += 2)
-    {
-        even += product(k);
-        odd += product(k + 1);
-    }
-    Vec<T, N> sum = even + odd;
-    if (k < x.inner) sum += product(k);
-    storeFirst<T, N, Count>(x.d + i * x.stride1D + V * N * sz<T>, sum);
+    storeFirst<T, N, Count>(x.d + i * x.stride1D + V * N * sz<T>, sumInPairs(0, x.inner, product));
 }
 
 template <class T, bool Transposes1, int N, int Count, int Vectors, class B>
-ZEPM_INLINE void tiles(const Tiles x, const B& b)
+ZEPM_INLINE void tiles(const ProductTiles x, const B& b)
 {
     ptrdiff_t i = 0;
     for (; i + 4 <= x.firstInPairs; i += 4) tile<T, Transposes1, N, Count, Vectors, 4>(x, b, i);
@@ -145,20 +139,19 @@ ZEPM_INLINE void tiles(const Tiles x, const B& b)
 }
 
 template <class T, bool Transposes1, bool Transposes2, int N, int Count, int Vectors = 1>
-[[gnu::noinline]] void columnsFrom(const Tiles& x, const char* b, ptrdiff_t stride1)
+[[gnu::noinline]] void columnsFrom(const ProductTiles& x, const char* b, ptrdiff_t stride1)
 {
     if constexpr (!Transposes2)
         tiles<T, Transposes1, N, Count, Vectors>(x, ColumnsAsStored<T, N, Count>{b, stride1});
     else if (x.inner <= mostGathered)
-        tiles<T, Transposes1, N, Count, Vectors>(
-            x, ColumnsGathered<T, N, Count, Vectors>(b, stride1, static_cast<int32>(x.inner)));
+        tiles<T, Transposes1, N, Count, Vectors>(x, ColumnsGathered<T, N, Count, Vectors>(b, stride1, x.inner));
     else
         tiles<T, Transposes1, N, Count, Vectors>(x, ColumnsApart<T, N, Count>{b, stride1});
 }
 
 // All columns: two registers at a time, one, then by halves down to 16 bytes, of which the last may not be full.
 template <class T, bool Transposes1, bool Transposes2>
-ZEPM_INLINE void multiplyObject(Tiles x, const char* b, ptrdiff_t stride1, ptrdiff_t cols)
+ZEPM_INLINE void multiplyObject(ProductTiles x, const char* b, ptrdiff_t stride1, ptrdiff_t cols)
 {
     constexpr int W = lanes<T>, E = pieceLength<T>;
     auto take = [&]<int N, int Count, int Vectors>() ZEPM_INLINED {
@@ -185,13 +178,13 @@ ZEPM_INLINE void multiplyObject(Tiles x, const char* b, ptrdiff_t stride1, ptrdi
 template <class T, bool Transposes1, bool Transposes2>
 ZEPM_INLINE void multiplyTiles(const ProductCall& call)
 {
-    Objects<true> a(call.a, call.isList), b(call.b, call.isList), d(call.d, call.isList);
+    Walk<true> a(call.a, call.isList), b(call.b, call.isList), d(call.d, call.isList);
     for (ptrdiff_t k = 0; k < call.count; ++k)
     {
-        multiplyObject<T, Transposes1, Transposes2>({a.object(0), call.a.stride1, const_cast<char*>(d.object(0)),
-                                                     call.d.stride1, call.rows, call.firstInPairs, call.inner},
-                                                    b.object(0), call.b.stride1, call.cols);
-        a.advance(1), b.advance(1), d.advance(1);
+        multiplyObject<T, Transposes1, Transposes2>({a.at(), call.a.stride1, const_cast<char*>(d.at()), call.d.stride1,
+                                                     call.rows, call.firstInPairs, call.inner},
+                                                    b.at(), call.b.stride1, call.cols);
+        a.advance(), b.advance(), d.advance();
     }
 }
 
@@ -209,17 +202,17 @@ template <class T, bool Transposes1, bool Transposes2>
     default: break;
     }
     if (call.rows == 8 && call.inner == 8 && call.cols == 8 && isSolid<T>(call, 8))
-        multiplyOrder<T, 8, Transposes1, Transposes2, true, Fixed::None, false>(call);
+        multiplyOrder<T, 8, Transposes1, Transposes2, true, FixedFactor::None, false>(call);
     else
         multiplyTiles<T, Transposes1, Transposes2>(call);
 }
 
 // Whether results are to be stored past the caches; in place they are read anyway.
 template <class T>
-ZEPM_INLINE bool isStreamed(const ProductCall& call)
+ZEPM_INLINE bool isProductStreamed(const ProductCall& call)
 {
     const ptrdiff_t rowSize = call.cols * sz<T>, size = call.rows * rowSize;
-    const int sources = !call.a.isFixed + !call.b.isFixed;
+    const int sources = !call.a.isFixed() + !call.b.isFixed();
     return !call.isList && call.d.stride1 == rowSize && call.d.step == size && size <= streamedMatrix &&
            isBeyondCaches(call.count * size, sources) && call.a.p != call.d.p && call.b.p != call.d.p;
 }
@@ -227,7 +220,7 @@ ZEPM_INLINE bool isStreamed(const ProductCall& call)
 template <class T, bool Transposes1, bool Transposes2>
 void multiplyMatrices(const ProductCall& call)
 {
-    if (!isStreamed<T>(call)) return multiplyObjects<T, Transposes1, Transposes2>(call);
+    if (!isProductStreamed<T>(call)) return multiplyObjects<T, Transposes1, Transposes2>(call);
     if (call.order == 3 && streamOrder<T, 3, Transposes1, Transposes2>(call)) return;
     if (call.order == 4 && streamOrder<T, 4, Transposes1, Transposes2>(call)) return;
     streamCall(call, call.d.step, [](const ProductCall& part) { multiplyObjects<T, Transposes1, Transposes2>(part); });

@@ -31,22 +31,11 @@ constexpr int powerOfTwoFrom(int n)
 
 constexpr int greatestCommonDivisor(int m, int n) { return n == 0 ? m : greatestCommonDivisor(n, m % n); }
 
-// A vector of blocks of N lanes each, block(r) for r from First on.
-template <class T, int N, int Blocks, int First = 0, class Block>
-ZEPM_INLINE Vec<T, N * Blocks> joinBlocks(Block block)
-{
-    if constexpr (Blocks == 1)
-        return block.template operator()<First>();
-    else
-        return join<T, N * Blocks / 2>(joinBlocks<T, N, Blocks / 2, First>(block),
-                                       joinBlocks<T, N, Blocks / 2, First + Blocks / 2>(block));
-}
-
 // ---- Where the objects lie ------------------------------------------------------------------------------------------
 
 // An object's rows. Those of a solid object have no gaps between them.
 template <class T, int Order, bool Solid>
-struct Rows
+struct FactorRows
 {
     const char* p;
     ptrdiff_t stride1;
@@ -67,9 +56,8 @@ struct Rows
     ZEPM_INLINE Vec<T, N * Times> getRepeated() const
     {
 #if defined(__AVX__)
-        // One load, where the compiler would spend a shuffle.
         if constexpr (Times == 2 && N == pieceLength<T> && (Count == N || holds<N, I, J>))
-            return reinterpret_cast<Vec<T, N * Times>>(_mm256_broadcast_ps(reinterpret_cast<const __m128*>(at(I, J))));
+            return loadTwice<T>(at(I, J));
         else
 #endif
             return repeat<T, N, Times>(get<N, Count, I, J>());
@@ -82,35 +70,10 @@ struct Rows
     }
 };
 
-// The objects of an operand one after another. Without IsList no operand is behind a table.
-template <bool IsList>
-struct Objects
-{
-    const char* p;
-    ptrdiff_t step, shift;
-    bool isListed;
-
-    ZEPM_INLINE Objects(const MatrixOperand& operand, bool isList)
-        : p(operand.p),
-          step(operand.isFixed    ? 0
-               : IsList && isList ? static_cast<ptrdiff_t>(sizeof(char*))
-                                  : operand.step),
-          shift(operand.step),
-          isListed(IsList && isList && !operand.isFixed)
-    {
-    }
-    ZEPM_INLINE const char* object(int r) const
-    {
-        const char* const at = p + r * step;
-        return isListed ? load<const char*>(at) + shift : at;
-    }
-    ZEPM_INLINE void advance(int objects) { p += objects * step; }
-};
-
 // ---- Panels ---------------------------------------------------------------------------------------------------------
 
 // Which of the factors is the same for every object.
-enum class Fixed
+enum class FixedFactor
 {
     None,
     First,
@@ -121,8 +84,8 @@ enum class Fixed
 template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, bool Streams = false>
 struct Factors
 {
-    using Object = Rows<T, Order, Solid>;
-    // Orders that no kernel has a body of its own for are here for speed alone.
+    using Object = FactorRows<T, Order, Solid>;
+    // Above order 6 sums begin with +0, as in the kernels without a body for an order.
     static constexpr bool fromZero = Order > 6;
     static constexpr ptrdiff_t size = Order * Order * sz<T>;
 
@@ -131,7 +94,7 @@ struct Factors
     struct Panel
     {
         static constexpr int blockLanes = powerOfTwoFrom(Columns);
-        // Behind the first panel, which takes one object at a time then, so do the others.
+        // If the order needs more than one panel, the first takes one object at a time, and so do the others.
         static constexpr int blocks =
             First == 0 ? Width / blockLanes : greatestCommonDivisor(Order, Width / blockLanes);
         static constexpr int rowsTogether = greatestCommonDivisor(Order, blocks);
@@ -152,7 +115,7 @@ struct Factors
         template <int I, class Object>
         ZEPM_INLINE static V rowOfAll(const Object (&x)[objects])
         {
-            return joinBlocks<T, blockLanes * rowsTogether, objects>([&]<int R>() ZEPM_INLINED {
+            return joinParts<T, blockLanes * rowsTogether, objects>([&]<int R>() ZEPM_INLINED {
                 return x[R].template getRepeated<blockLanes, Columns, I, First, rowsTogether>();
             });
         }
@@ -171,7 +134,7 @@ struct Factors
                         if constexpr (isWhole)
                             rows[Q] = loadVec<T, N>(a[0].at(rowOf(Q, 0), 0));
                         else
-                            rows[Q] = joinBlocks<T, blockLanes, blocks>([&]<int R>() ZEPM_INLINED {
+                            rows[Q] = joinParts<T, blockLanes, blocks>([&]<int R>() ZEPM_INLINED {
                                 return a[objectOf(R)].template get<blockLanes, Columns, rowOf(Q, R), 0>();
                             });
                     });
@@ -186,7 +149,7 @@ struct Factors
                 else if constexpr (permutes)
                     return permute<T, N>(rows[Q], [](int lane) { return lane / blockLanes * blockLanes + K; });
                 else
-                    return joinBlocks<T, blockLanes, blocks>([&]<int R>() ZEPM_INLINED {
+                    return joinParts<T, blockLanes, blocks>([&]<int R>() ZEPM_INLINED {
                         constexpr int i = rowOf(Q, R);
                         return broadcast<T, blockLanes>(
                             load<T>(Transposes1 ? object[objectOf(R)].at(K, i) : object[objectOf(R)].at(i, K)));
@@ -205,19 +168,17 @@ struct Factors
                     each<Order>([&]<int K>() ZEPM_INLINED { rows[K] = rowOfAll<K>(b); });
                 else if constexpr (blockLanes < E)
                     each<Order>([&]<int K>() ZEPM_INLINED {
-                        rows[K] = [&]<int... Lane>(std::integer_sequence<int, Lane...>) ZEPM_INLINED
-                        {
-                            return joinLanes({load<T>(b[objectOf(Lane / blockLanes)].at(
-                                First + (Lane % blockLanes < Columns ? Lane % blockLanes : 0), K))...});
-                        }
-                        (std::make_integer_sequence<int, N>{});
+                        rows[K] = eachLane<T, N>([&](int lane) ZEPM_INLINED {
+                            const int j = lane % blockLanes;
+                            return load<T>(b[objectOf(lane / blockLanes)].at(First + (j < Columns ? j : 0), K));
+                        });
                     });
                 else
                     // Each 16 bytes hold E elements of one stored row, then one element of E stored rows.
                     each<(Order + E - 1) / E>([&]<int Group>() ZEPM_INLINED {
                         V stored[E];
                         each<E>([&]<int S>() ZEPM_INLINED {
-                            stored[S] = joinBlocks<T, blockLanes * rowsTogether, objects>([&]<int R>() __attribute__((
+                            stored[S] = joinParts<T, blockLanes * rowsTogether, objects>([&]<int R>() __attribute__((
                                 always_inline)) {
                                 return repeat<T, blockLanes, rowsTogether>(storedColumns<Group * E, S>(b[R]));
                             });
@@ -230,23 +191,12 @@ struct Factors
             }
 
         private:
-            ZEPM_INLINE static V joinLanes(const T (&x)[N])
-            {
-                return [&]<int... Lane>(std::integer_sequence<int, Lane...>) ZEPM_INLINED
-                {
-                    if constexpr (N == 1)
-                        return x[0];
-                    else
-                        return V{x[Lane]...};
-                }
-                (std::make_integer_sequence<int, N>{});
-            }
             // A block: in each 16 bytes g, elements from column K on of stored row First + g * E + S.
             template <int K, int S>
             ZEPM_INLINE static Vec<T, blockLanes> storedColumns(const Object& b)
             {
                 constexpr int E = pieceLength<T>;
-                return joinBlocks<T, E, blockLanes / E>([&]<int G>() ZEPM_INLINED {
+                return joinParts<T, E, blockLanes / E>([&]<int G>() ZEPM_INLINED {
                     constexpr int j = First + G * E + S;
                     if constexpr (j < Order)
                         return b.template get<E, (Order - K < E ? Order - K : E), j, K>();
@@ -268,20 +218,10 @@ struct Factors
                 else if constexpr (isWhole)
                     storeVec<T, N>(to, sum);
                 else
-                    storeBlocks<Q, 0, blocks>(sum, d);
+                    splitParts<T, blockLanes, blocks>(sum, [&]<int R>(Vec<T, blockLanes> x) ZEPM_INLINED {
+                        d[objectOf(R)].template set<blockLanes, Columns, rowOf(Q, R), First>(x);
+                    });
             });
-        }
-
-        template <int Q, int R, int Blocks>
-        ZEPM_INLINE static void storeBlocks(Vec<T, blockLanes * Blocks> x, const Object (&d)[objects])
-        {
-            if constexpr (Blocks == 1)
-                d[objectOf(R)].template set<blockLanes, Columns, rowOf(Q, R), First>(x);
-            else
-            {
-                storeBlocks<Q, R, Blocks / 2>(half<T, blockLanes * Blocks, 0>(x), d);
-                storeBlocks<Q, R + Blocks / 2, Blocks / 2>(half<T, blockLanes * Blocks, 1>(x), d);
-            }
         }
     };
 
@@ -301,15 +241,15 @@ struct Factors
             : a(objectA), b(objectB), rest(objectA, objectB)
         {
         }
-        template <Fixed fixed>
+        template <FixedFactor fixed>
         ZEPM_INLINE void multiply(const Object (&objectA)[objects], const Object (&objectB)[objects],
                                   const Object (&d)[objects]) const
         {
             using A = typename Own::FirstFactor;
             using B = typename Own::SecondFactor;
-            if constexpr (fixed == Fixed::First)
+            if constexpr (fixed == FixedFactor::First)
                 Own::multiply(a, B(objectB), d);
-            else if constexpr (fixed == Fixed::Second)
+            else if constexpr (fixed == FixedFactor::Second)
                 Own::multiply(A(objectA), b, d);
             else
                 Own::multiply(A(objectA), B(objectB), d);
@@ -319,26 +259,26 @@ struct Factors
     template <int Width, int First>
     requires(First >= Order) struct Panels<Width, First>
     {
-        template <class Objects>
-        ZEPM_INLINE Panels(const Objects&, const Objects&)
+        template <class Object_>
+        ZEPM_INLINE Panels(const Object_&, const Object_&)
         {
         }
-        template <Fixed, class Objects>
-        ZEPM_INLINE void multiply(const Objects&, const Objects&, const Objects&) const
+        template <FixedFactor, class Object_>
+        ZEPM_INLINE void multiply(const Object_&, const Object_&, const Object_&) const
         {
         }
     };
 
     // All objects in groups, then those left over in registers of half the width.
-    template <int Width, Fixed fixed, class Found>
+    template <int Width, FixedFactor fixed, class Found>
     ZEPM_INLINE static void multiply(Found a, Found b, Found d, const ProductCall& call, ptrdiff_t count)
     {
         using All = Panels<Width>;
         constexpr int G = All::objects;
-        auto gathered = [&](const Found& x, const MatrixOperand& operand) ZEPM_INLINED {
+        auto gathered = [&](const Found& x, const MatrixSequence& operand) ZEPM_INLINED {
             return [&]<int... R>(std::integer_sequence<int, R...>) ZEPM_INLINED
             {
-                return Group<G>{{{x.object(R), operand.stride1}...}};
+                return Group<G>{{{x.at(R), operand.stride1}...}};
             }
             (std::make_integer_sequence<int, G>{});
         };
@@ -346,19 +286,19 @@ struct Factors
         {
             const auto fixedA = gathered(a, call.a), fixedB = gathered(b, call.b);
             const All panels(fixedA.object, fixedB.object);
-            const FetchedAhead aheadA(a.p, call.a.isFixed ? 1 : count * call.a.step);
-            const FetchedAhead aheadB(b.p, call.b.isFixed ? 1 : count * call.b.step);
+            const FetchedAhead aheadA(a.p, call.a.isFixed() ? 1 : count * call.a.step);
+            const FetchedAhead aheadB(b.p, call.b.isFixed() ? 1 : count * call.b.step);
             // Fetches as many bytes ahead in each source as the next step reads.
             auto fetch = [&](ptrdiff_t bytes) ZEPM_INLINED {
                 for (ptrdiff_t line = 0; line < bytes; line += 64)
                 {
-                    if constexpr (fixed != Fixed::First) aheadA.from(a.p + line);
-                    if constexpr (fixed != Fixed::Second) aheadB.from(b.p + line);
+                    if constexpr (fixed != FixedFactor::First) aheadA.from(a.p + line);
+                    if constexpr (fixed != FixedFactor::Second) aheadB.from(b.p + line);
                 }
             };
             auto multiplyGroup = [&](const Group<G>& objectD) ZEPM_INLINED {
-                const auto objectA = fixed == Fixed::First ? fixedA : gathered(a, call.a);
-                const auto objectB = fixed == Fixed::Second ? fixedB : gathered(b, call.b);
+                const auto objectA = fixed == FixedFactor::First ? fixedA : gathered(a, call.a);
+                const auto objectB = fixed == FixedFactor::Second ? fixedB : gathered(b, call.b);
                 panels.template multiply<fixed>(objectA.object, objectB.object, objectD.object);
                 a.advance(G), b.advance(G);
             };
@@ -369,10 +309,10 @@ struct Factors
                 alignas(64) char buffer[many * size];
                 for (; count >= many; count -= many)
                 {
-                    Found x({buffer, size, call.d.stride1, false}, false);
+                    Found x({buffer, size}, false);
                     fetch(many * size);
                     for (int k = 0; k < many; k += G, x.advance(G)) multiplyGroup(gathered(x, call.d));
-                    char* const to = const_cast<char*>(d.object(0));
+                    char* const to = const_cast<char*>(d.at());
                     for (ptrdiff_t i = 0; i < many * size; i += registerBytes)
                         streamPieces<T, lanes<T>>(to + i, loadVec<T, lanes<T>>(buffer + i));
                     d.advance(many);
@@ -401,11 +341,11 @@ private:
 
 // ---- The bodies of the orders ---------------------------------------------------------------------------------------
 
-template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, Fixed fixed, bool Streams>
+template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, FixedFactor fixed, bool Streams>
 [[gnu::noinline]] void multiplyOrder(const ProductCall& call)
 {
-    // Objects of a list are not looked at for gaps.
-    using Found = Objects<!Solid>;
+    // Solid is asked of the strided layout alone, so the objects of a list are never solid.
+    using Found = Walk<!Solid>;
     Factors<T, Order, Transposes1, Transposes2, Solid, Streams>::template multiply<lanes<T>, fixed>(
         Found(call.a, call.isList), Found(call.b, call.isList), Found(call.d, call.isList), call, call.count);
 }
@@ -424,14 +364,14 @@ using SolidPanel = typename Factors<T, Order, Transposes1, Transposes2, true>::t
 template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid, bool Streams = false>
 ZEPM_INLINE void multiplyObjectsOfOrder(const ProductCall& call)
 {
-    auto ofFixed = [&]<Fixed fixed>()
+    auto ofFixed = [&]<FixedFactor fixed>()
                        ZEPM_INLINED { multiplyOrder<T, Order, Transposes1, Transposes2, Solid, fixed, Streams>(call); };
     // A fixed first factor is held where that saves shuffles; elsewhere its elements come from memory anyway.
     constexpr bool holdsFirst = Solid && !Streams && SolidPanel<T, Order, Transposes1, Transposes2>::permutes;
-    if (call.b.isFixed) return ofFixed.template operator()<Fixed::Second>();
+    if (call.b.isFixed()) return ofFixed.template operator()<FixedFactor::Second>();
     if constexpr (holdsFirst)
-        if (call.a.isFixed) return ofFixed.template operator()<Fixed::First>();
-    ofFixed.template operator()<Fixed::None>();
+        if (call.a.isFixed()) return ofFixed.template operator()<FixedFactor::First>();
+    ofFixed.template operator()<FixedFactor::None>();
 }
 
 // Whether rows of all objects go together.
@@ -439,7 +379,7 @@ template <class T, bool Transposes1>
 ZEPM_INLINE bool takesRowsOf3(const ProductCall& call)
 {
     constexpr ptrdiff_t size = 9 * sz<T>;
-    return sizeof(T) == 4 && !Transposes1 && call.b.isFixed && call.a.step == size && call.d.step == size &&
+    return sizeof(T) == 4 && !Transposes1 && call.b.isFixed() && call.a.step == size && call.d.step == size &&
            isSolid<T>(call, 3);
 }
 
@@ -491,19 +431,58 @@ template <class T, int Order, bool Transposes1, bool Transposes2>
 }
 
 // One pair, without the road to another level.
-template <class T, int Order, bool Transposes1, bool Transposes2>
-ZEPM_INLINE void multiplyPair(const MatrixOperand& a, const MatrixOperand& b, const MatrixOperand& d)
+template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid>
+ZEPM_INLINE void multiplyPair(const MatrixSequence& a, const MatrixSequence& b, const MatrixSequence& d)
 {
-    auto multiply = [&]<bool Solid>() ZEPM_INLINED {
-        using These = Factors<T, Order, Transposes1, Transposes2, Solid>;
-        using All = typename These::template Panels<pieceLength<T>>;
-        const typename These::Object objectA[]{{a.p, a.stride1}}, objectB[]{{b.p, b.stride1}},
-            objectD[]{{d.p, d.stride1}};
-        All(objectA, objectB).template multiply<Fixed::None>(objectA, objectB, objectD);
+    using These = Factors<T, Order, Transposes1, Transposes2, Solid>;
+    using All = typename These::template Panels<pieceLength<T>>;
+    const typename These::Object objectA[]{{a.p, a.stride1}}, objectB[]{{b.p, b.stride1}}, objectD[]{{d.p, d.stride1}};
+    All(objectA, objectB).template multiply<FixedFactor::None>(objectA, objectB, objectD);
+}
+
+// The same with both factors in registers before a result is stored: a destination may be a source.
+template <class T, int Order, bool Transposes1, bool Transposes2, bool Solid>
+ZEPM_INLINE void multiplyHeldPair(const MatrixSequence& a, const MatrixSequence& b, const MatrixSequence& d)
+{
+    constexpr int E = pieceLength<T>, pieces = (Order + E - 1) / E;
+    using V = Vec<T, E>;
+    using Object = FactorRows<T, Order, Solid>;
+    auto hold = [&](const MatrixSequence& x, V(&rows)[pieces * E][pieces]) ZEPM_INLINED {
+        each<Order>([&]<int I>() ZEPM_INLINED {
+            each<pieces>([&]<int Q>() ZEPM_INLINED {
+                constexpr int count = Order - Q * E < E ? Order - Q * E : E;
+                rows[I][Q] = Object{x.p, x.stride1}.template get<E, count, I, Q * E>();
+            });
+        });
     };
-    constexpr ptrdiff_t rowSize = Order * sz<T>;
-    a.stride1 == rowSize&& b.stride1 == rowSize&& d.stride1 == rowSize ? multiply.template operator()<true>()
-                                                                       : multiply.template operator()<false>();
+    V rowsA[pieces * E][pieces]{}, rowsB[pieces * E][pieces]{};
+    hold(a, rowsA);
+    hold(b, rowsB);
+    if constexpr (Transposes2)
+    {
+        V stored[pieces * E][pieces];
+        __builtin_memcpy(stored, rowsB, sizeof stored);
+        each<pieces>([&]<int P>() ZEPM_INLINED {
+            each<pieces>([&]<int Q>() ZEPM_INLINED {
+                V square[E];
+                each<E>([&]<int S>() ZEPM_INLINED { square[S] = stored[P * E + S][Q]; });
+                transposePieces<T, E>(square);
+                each<E>([&]<int S>() ZEPM_INLINED { rowsB[Q * E + S][P] = square[S]; });
+            });
+        });
+    }
+    each<Order>([&]<int I>() ZEPM_INLINED {
+        each<pieces>([&]<int Q>() ZEPM_INLINED {
+            auto product = [&]<int K>() ZEPM_INLINED {
+                constexpr int row = Transposes1 ? K : I, column = Transposes1 ? I : K;
+                return spread<T, E, column % E>(rowsA[row][column / E]) * rowsB[K][Q];
+            };
+            V sum = product.template operator()<0>();
+            each<Order - 1>([&]<int K>() ZEPM_INLINED { sum += product.template operator()<K + 1>(); });
+            constexpr int count = Order - Q * E < E ? Order - Q * E : E;
+            Object{d.p, d.stride1}.template set<E, count, I, Q * E>(sum);
+        });
+    });
 }
 
 } // namespace zepm::ZEPM_LEVEL

@@ -25,7 +25,8 @@ Status zepmMul_mm_32f(const float32* pSrc1, int32 src1Stride1, int32 src1Stride2
     const MultiplyMm<float32, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
                                    {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
                                    {pDst, dstStride1, dstStride2}};
-    return enter(x, order<Pointers, Sizes, SizeMatch, Strides>{}, ownMul_mm_32f_Packed, ownMul_mm_32f_Strided);
+    return enterQuick(x, smallPair(sizes<3, 4, 5, 6>{}), order<Pointers, Sizes, SizeMatch, Strides>{},
+                      ownMul_mm_32f_Packed, ownMul_mm_32f_Strided);
 }
 
 Status zepmMul_mm_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int32 src1Width, int32 src1Height,
@@ -45,7 +46,8 @@ Status zepmMul_mm_64f(const float64* pSrc1, int32 src1Stride1, int32 src1Stride2
     const MultiplyMm<float64, S> x{{{pSrc1, src1Stride1, src1Stride2}, src1Width, src1Height},
                                    {{pSrc2, src2Stride1, src2Stride2}, src2Width, src2Height},
                                    {pDst, dstStride1, dstStride2}};
-    return enter(x, order<Pointers, Sizes, SizeMatch, Strides>{}, ownMul_mm_64f_Packed, ownMul_mm_64f_Strided);
+    return enterQuick(x, smallPair(sizes<3, 4, 5, 6>{}), order<Pointers, Sizes, SizeMatch, Strides>{},
+                      ownMul_mm_64f_Packed, ownMul_mm_64f_Strided);
 }
 
 Status zepmMul_mm_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int32 src1Width, int32 src1Height,

@@ -28,6 +28,7 @@ struct Factoring
     }
     ZEPM_INLINE bool sizesValid() const { return widthHeight >= 1; }
     ZEPM_INLINE int32 estimate() const { return (Work(widthHeight) * widthHeight * count).estimate(); }
+    ZEPM_INLINE static int32 weight() { return 12; }
     ZEPM_INLINE Factoring share(int32 first, int32 n) const
     {
         return {src.from(first), pivots.from(first, widthHeight).p, dst.from(first), widthHeight, n};
@@ -62,6 +63,7 @@ struct Solving
         const Work n(widthHeight);
         return (sharesMatrix ? (n + Work(2) * count) * n : (n + 2) * n * count).estimate();
     }
+    ZEPM_INLINE static int32 weight() { return 5; }
     ZEPM_INLINE Solving share(int32 first, int32 n) const
     {
         return {matrix.from(first), sharesMatrix ? pivots.p : pivots.from(first, widthHeight).p,
