@@ -2,6 +2,9 @@
 #include "core/processor.h"
 #include "zepcore.h"
 
+#include <cstdlib>
+#include <strings.h>
+
 namespace
 {
 
@@ -10,8 +13,17 @@ namespace
 // processor is idle. The rest is margin for slower ones (bench/fork_bench).
 constexpr int32 breakEvenWork = 200000;
 
+// Where idle threads sleep at once, a region has to wake them, which takes some ten times as long.
+constexpr int32 breakEvenWorkPassive = 10 * breakEvenWork;
+
+int32 defaultMinParallelWork()
+{
+    const char* const policy = std::getenv("OMP_WAIT_POLICY");
+    return policy && strcasecmp(policy, "passive") == 0 ? breakEvenWorkPassive : breakEvenWork;
+}
+
 const int32 cpuLevelMax = zepcore::highestCpuLevel();
-OwnSettings settings{cpuLevelMax, breakEvenWork};
+OwnSettings settings{cpuLevelMax, defaultMinParallelWork()};
 
 } // namespace
 

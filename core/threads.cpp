@@ -30,6 +30,14 @@ int32 defaultNumThreads()
     return wanted < available ? wanted : available;
 }
 
+// The OpenMP runtime ends the process when the system refuses it a thread, so a setting stays far from that.
+int32 mostThreads()
+{
+    constexpr int32 perProcessor = 16;
+    const int32 limit = omp_get_thread_limit(), sensible = perProcessor * omp_get_num_procs();
+    return limit < sensible ? limit : sensible;
+}
+
 } // namespace
 
 int32 ownGetNumThreads(void)
@@ -41,7 +49,7 @@ int32 ownGetNumThreads(void)
 
 Status zepSetNumThreads(int32 numThreads)
 {
-    if (numThreads < 1) return stsSizeErr;
+    if (numThreads < 1 || numThreads > mostThreads()) return stsSizeErr;
     numThreadsSet = numThreads;
     return stsOk;
 }

@@ -10,6 +10,7 @@
 #include "frame/enter.h"
 #include "zepcore.h"
 
+#include <cfenv>
 #include <omp.h>
 
 namespace zepm
@@ -43,32 +44,34 @@ concept NeedsScratch = requires(const X& x)
 template <class X>
 Status forkShares(const X& x, KernelOf<X>* kernel, int32 numThreads, [[maybe_unused]] char* scratch)
 {
-    int32 quotient = 0, remainder = 0;
     Status status = stsOk;
-#pragma omp parallel num_threads(numThreads) default(none) shared(x, kernel, scratch, quotient, remainder, status)
+    fenv_t caller;
+    fegetenv(&caller);
+#pragma omp parallel num_threads(numThreads) default(none) shared(x, kernel, scratch, status, caller)
     {
-        // Fewer threads may be delivered than were asked for, so the split is made inside.
-#pragma omp master
-        {
-            const int32 delivered = omp_get_num_threads();
-            quotient = x.count / delivered;
-            remainder = x.count % delivered;
-        }
-#pragma omp barrier
-        const int32 tid = omp_get_thread_num();
-        const Share own = shareOf(tid, quotient, remainder);
+        // The rounding mode, and what becomes of subnormal numbers, are the caller's in every thread.
+        fenv_t former;
+        fegetenv(&former);
+        fesetenv(&caller);
+        // Fewer threads may be delivered than were asked for, so each works out its share inside.
+        const int32 delivered = omp_get_num_threads(), tid = omp_get_thread_num();
+        const Share own = shareOf(tid, x.count / delivered, x.count % delivered);
         X part = x.share(own.first, own.count);
         if constexpr (NeedsScratch<X>) part.pBuffer = scratch + static_cast<size_t>(tid) * x.scratchPerThread();
         const Status result = kernel(part);
         if constexpr (CanFail<X>)
         {
+            if (result != stsOk)
+            {
 #pragma omp critical
-            if (status == stsOk) status = result;
+                if (status == stsOk) status = result;
+            }
         }
         else
         {
             static_cast<void>(result);
         }
+        fesetenv(&former);
     }
     return status;
 }

@@ -23,7 +23,9 @@ extern "C" {
  * team does not survive the fork. */
 int32 ownGetNumThreads(void);
 
-/* Sets the number of threads. stsSizeErr if numThreads is below 1; the setting is then unchanged. */
+/* Sets the number of threads. stsSizeErr if numThreads is below 1, above OpenMP's thread limit or above 16 for each
+ * processor available; the setting is then unchanged. OpenMP ends the process if the system cannot give it a thread, as
+ * where the address space has no room for another stack: the limit keeps away from that, but cannot rule it out. */
 Status zepSetNumThreads(int32 numThreads);
 
 /* The instruction-set level in force: 0 baseline (SSSE3), 1 AVX2, 2 AVX-512. Unless set, the highest that the processor
@@ -36,8 +38,9 @@ Status zepSetCpuLevel(int32 level);
 /* Writes the size in bytes of the largest processor cache, 0 if it is not known. stsNullPtrErr if pSizeByte is null. */
 Status zepGetMaxCacheSizeB(int32* pSizeByte);
 
-/* The least work, in elements read and written, for which the cheap families (element-wise, vector, product and point
- * functions) fork threads. Below it they run on the calling thread whatever their own limit says. */
+/* The least work for which an array call forks threads, in elements that an element-wise call reads and writes or in what
+ * takes as long. Below it a call runs on the calling thread whatever its own limit says. Unless set, it is what repays
+ * waking the threads, ten times as much where OpenMP was told to let them sleep (OMP_WAIT_POLICY=passive). */
 int32 ownGetMinParallelWork(void);
 
 /* Sets the least work; 0 leaves the limit of each function alone in force. stsSizeErr if elements is below 0; the
