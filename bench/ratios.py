@@ -1,9 +1,7 @@
 #!/usr/bin/env python3
 """Prints ratios of medians from the JSON files of bench/run.
 
-For each case: the library's time, the best peer's time divided by it, and where plain copies of the same number of
-bytes were timed, its bandwidth divided by theirs. For the fork benchmark: two threads' time divided by one's.
-A ratio below its aim is marked with <; a spread is the standard deviation in percent of the mean, ours and the peer's.
+Each table has a legend. A ratio that misses its aim is marked with <.
 """
 import argparse
 import json
@@ -12,6 +10,18 @@ import sys
 from collections import defaultdict
 
 PEER_AIM, COPY_AIM, FORK_AIM = 0.95, 0.9, 1.1
+LEVELS = ["the baseline (SSSE3)", "AVX2", "AVX-512"]
+
+LEGEND = f"""
+  zepm       the library's time for one call (medians of all repetitions)
+  peer/zepm  the fastest peer's time divided by it: above 1 zepm is faster; < is below {PEER_AIM}
+  spread     the standard deviation in percent of the mean, zepm's and that peer's
+  memcpy     the time of copying as many bytes as the call reads and writes, divided by zepm's; < is below {COPY_AIM}
+  loop       the same for a copy in a plain loop"""
+FORK_LEGEND = f"""
+  work       the call's estimate of its elements read and written
+  one, two   the time of one call with one thread and with two
+  two/one    above 1 the second thread costs time; < is above {FORK_AIM}"""
 
 
 class Times:
@@ -80,7 +90,7 @@ def print_families(title, times, misses_only):
         print("\n".join(rows))
 
 
-def print_forks(times, misses_only):
+def print_forks(title, times, misses_only):
     worst = {}
     rows = []
     for case, contenders in times.cases.items():
@@ -94,7 +104,8 @@ def print_forks(times, misses_only):
             rows.append(f"{case:<44}{contenders.get('work', 0):>12.0f}{time_text(contenders['threads:1']):>11}"
                         f"{time_text(contenders['threads:2']):>11}{ratio:8.2f}{'<' if misses else ''}")
     if rows:
-        print(f"\n{'two threads against one':<44}{'work':>12}{'one':>11}{'two':>11}{'two/one':>8}")
+        print(f"\n{title}{FORK_LEGEND}")
+        print(f"{'two threads against one':<44}{'work':>12}{'one':>11}{'two':>11}{'two/one':>8}")
         print("\n".join(rows))
     for mode, (ratio, case) in worst.items():
         print(f"worst of {mode}: {ratio:.2f} at {case}")
@@ -118,11 +129,12 @@ def main():
         context = times.context
         if is_first:
             is_first = False
-            print(f"machine: {', '.join(machine)}, {context['num_cpus']} processors; date: {context['date']}")
-        title = (f"level {context.get('level')}, peers compiled for {context.get('peers')}, load "
+            print(f"machine: {', '.join(machine)}, {context['num_cpus']} processors; date: {context['date']}{LEGEND}")
+        level = int(context.get("level", -1))
+        title = (f"zepm at {LEVELS[level] if 0 <= level < len(LEVELS) else 'an unknown level'}, peers compiled for {context.get('peers')}, load "
                  f"{context['load_avg'][0]:.1f} at the start")
         print_families(title, times, arguments.misses)
-        print_forks(times, arguments.misses)
+        print_forks(title, times, arguments.misses)
         failed += times.failed
     for name in failed:
         print(f"FAILED: {name}")

@@ -1,7 +1,7 @@
 /* zepm.h: numerical operations on small matrices and vectors, one object or arrays of objects.
  *
  *   zepm_types.h        types, status codes, how names and layouts are read
- *   zepm_elementwise.h  Add, Sub
+ *   zepm_elementwise.h  Add, Sub, Mul by a constant
  *   zepm_product.h      products of matrices
  *   zepm_solver.h       direct solvers
  *   zepm_eigen.h        eigenproblems
@@ -29,6 +29,11 @@ const LibVersion* zepmGetLibVersion(void);
 #pragma GCC visibility pop
 #ifdef __cplusplus
 }
+#endif
+
+/* With -DZEPM_CHECK=1 mistakes in calls are reported; see there. */
+#if defined(ZEPM_CHECK) && ZEPM_CHECK
+#include "zepm_check.h"
 #endif
 
 #endif

@@ -21,7 +21,10 @@
  *                     zero (a product that may hold factors from before the values had settled); the values of the
  *                     object are written, not in order. At n = 2 the determinant is within eps of zero; nothing of the
  *                     object is written. Never at n = 1.
- *   stsEigenFailErr   30 sweeps did not settle an eigenvalue; what is written of the object is of no use.
+ *   stsEigenFailErr   30 sweeps did not settle an eigenvalue; what is written of the object is of no use. In 10^6
+ *                     random matrices of order 3 to 6 this meets one in 7,500 to 12,000 in 32f, one in 20,000 to 40,000
+ *                     in 64f. The same matrix with rows and columns in reverse almost always converges; its eigenvalues
+ *                     are the same, the rows of its eigenvectors in reverse.
  *
  * All tolerances are absolute: matrices should be scaled so that their elements are near 1. An iteration that reaches
  * rotations of a length within eps, or steps within eps before its element is zero, loses accuracy without a report;

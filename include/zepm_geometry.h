@@ -12,9 +12,9 @@
  *                  zepmAffineTransform3DH_mva
  *
  * All in 32f. v2, v3, v4: a vector of 2, 3, 4 contiguous elements. m4: a 4 by 4 matrix of 16 contiguous elements, e[0]
- * to e[15] row by row. Pointers need no alignment. Points are rows, multiplied from the left, so a translation stands
- * in row 3. Angles are in radians. In the formulas a, b, c are the sources in order, d is the destination; arithmetic
- * is float32 in the order written.
+ * to e[15] row by row (row-major). Pointers need no alignment. Points are rows, multiplied from the left, so a
+ * translation stands in row 3. Angles are in radians. In the formulas a, b, c are the sources in order, d is the
+ * destination; arithmetic is float32 in the order written.
  *
  * Sources are read in full before a result is written, so a destination may be a source.
  *
@@ -22,8 +22,9 @@
  * also 0 or negative. Each point is computed like a single one, and nothing between the points is touched. Where points
  * overlap, the result is that of a walk from the first point to the last; a count below 1 is nothing to do.
  *
- * No argument is tested: a null pointer faults, a division by zero gives what IEEE says, with stsOk. The exceptions are
- * told at zepmMul_mm4x4, zepmInvert_m4, zepmUnproject and zepmAffineTransform3DH_mva.
+ * No argument is tested: a null pointer faults, and a division by zero gives what IEEE arithmetic prescribes, with
+ * stsOk. Four functions return other statuses: zepmMul_mm4x4, zepmInvert_m4, zepmUnproject and
+ * zepmAffineTransform3DH_mva.
  */
 #ifndef ZEPM_GEOMETRY_H
 #define ZEPM_GEOMETRY_H
@@ -197,7 +198,11 @@ Status zepmDet_m4_32f(const float32* pSrc, float32* pDst);
 
 /* The inverse: the cofactors, times a reciprocal of the determinant from the 12-bit estimate and one Newton step.
  * pDet, which may be null, receives the determinant. stsSingularErr if the determinant is below 2^-119 in magnitude:
- * *pDet is then 0 and pDst as it was. */
+ * *pDet is then 0 and pDst as it was.
+ *
+ * The result is accurate for determinants of magnitude 2^-64 to 2^63. The Newton step squares the estimate, so that
+ * with stsOk smaller determinants give infinities, and larger ones an error that grows fourfold with each power of 2,
+ * up to twice the inverse from 2^75 on: scale the matrix before. */
 Status zepmInvert_m4_32f(const float32* pSrc, float32* pDet, float32* pDst);
 
 /* ---- Points through a matrix ------------------------------------------------------------------------------------- */

@@ -1,20 +1,28 @@
 /* zepm_types.h: the types, status codes and version record shared by every zepm header.
  *
- * Naming. zepm<Operation>_<operands>_<type>[_<layout>]: the operands are read left to right, sources first; the
- * destination is not written. v: a vector of len elements; m: a matrix of height rows and width columns; t: a matrix
- * used through its transpose; c: a constant; a letter followed by a: an array of count such objects. 32f and 64f name
- * the element type. The layout is how objects are reached:
+ * Naming. zepm<Operation>_<operands>_<type>[_<layout>]. The operands are the sources from left to right; the
+ * destination is not part of the name. v: a vector of len elements; m: a matrix of height rows and width columns; t: a
+ * matrix used through its transpose; c: a constant; a letter followed by a: an array of count such objects. 32f and 64f
+ * name the element type, float32 and float64.
  *
- *   (none)  one base pointer and byte strides: stride0 between objects, stride1 between rows, stride2 between elements
- *   _L      a table with one pointer for each object, and a shift in bytes added to each of them
- *   _P      a table with one pointer for each element position of one object, and a shift in bytes; object k lies
- *           k * stride0 bytes further
+ * Layouts. The headers call them by their letters:
+ *
+ *   S  (no suffix) one base pointer and byte strides: stride0 between objects, stride1 between rows, stride2 between
+ *      elements
+ *   L  (_L) a table with one pointer for each object, and a shift in bytes added to each of them
+ *   P  (_P) a table with one pointer for each element of one object, row by row, and a shift in bytes; object k lies
+ *      k * stride0 bytes further
+ *
+ * A matrix without gaps is stored row by row (row-major): stride2 is the element size, stride1 the size of a row. With
+ * the two exchanged it is stored by columns.
  *
  * Every stride is in bytes, at least the element size and a multiple of it; every shift is in bytes, not negative and a
  * multiple of the element size. Base pointers and table entries may have any alignment. An operand without a in an
- * array form is the same object for all count results; in _L it is given by base pointer and strides.
+ * array form is the same object for all count results; in L it is given by base pointer and strides. In C a table of
+ * float* needs a cast where the parameter is const float32* const*; C++ converts it.
  *
- * Every function returns a Status. An error found in the arguments leaves all outputs untouched.
+ * Every function returns a Status. An error found in the arguments leaves all outputs untouched. Objects behind one
+ * that fails may have been read, all count of them, but have not been written.
  */
 #ifndef ZEPM_TYPES_H
 #define ZEPM_TYPES_H
@@ -25,8 +33,11 @@ typedef int32_t int32;
 typedef float float32;
 typedef double float64;
 
-/* The result of every function; one of the values below. */
+/* The result of every function; one of the values below. Where another header has made the name a macro for int, as
+ * that of Xlib does, the functions return that. */
+#ifndef Status
 typedef int32_t Status;
+#endif
 
 enum
 {

@@ -67,7 +67,7 @@ bool compareRuns(const Points& points, const std::vector<int>& neighbours)
         {
             require(zepSetNumThreads(numThreads), "zepSetNumThreads");
             EigenSystems systems;
-            std::vector<float> matrices = covariances(points, neighbours, neighbourhood);
+            const std::vector<float> matrices = covariances(points, neighbours, neighbourhood);
             solve(matrices, systems);
             const uint64_t hash = hashOf(systems);
             if (runs++ == 0) first = hash;
@@ -83,7 +83,7 @@ bool compareRuns(const Points& points, const std::vector<int>& neighbours)
     return equal;
 }
 
-std::vector<Bar> measure(std::vector<float>& matrices)
+std::vector<Bar> measure(const std::vector<float>& matrices)
 {
     const size_t count = matrices.size() / 9;
     const int32 threads = ownGetNumThreads();
@@ -99,6 +99,13 @@ std::vector<Bar> measure(std::vector<float>& matrices)
     return bars;
 }
 
+std::string noteOn(int redone)
+{
+    if (redone == 0) return {};
+    if (redone == 1) return "1 matrix did not converge and was redone in reverse";
+    return std::to_string(redone) + " matrices did not converge and were redone in reverse";
+}
+
 int run(int argc, char** argv)
 {
     Points points;
@@ -107,7 +114,7 @@ int run(int argc, char** argv)
     EigenSystems systems;
     std::vector<Bar> bars;
     Deviation deviation;
-    int rescaled = 0;
+    int redone = 0;
 
     stage("read the points", [&] { points = argc > 1 ? readPoints(argv[1]) : builtInSurface(); });
     if (points.count() < neighbourhood)
@@ -116,12 +123,13 @@ int run(int argc, char** argv)
     const View view = viewOf(points);
     stage("find the neighbours", [&] { neighbours = nearestNeighbours(points, neighbourhood); });
     stage("covariances", [&] { matrices = covariances(points, neighbours, neighbourhood); });
-    stage("eigenvalues and eigenvectors", [&] { rescaled = solve(matrices, systems); });
+    stage("eigenvalues and eigenvectors", [&] { redone = solve(matrices, systems); });
+    const std::string note = noteOn(redone);
     stage("normals towards the viewer", [&] { normals = normalsOf(systems, points, view.eye); });
     stage("compare with LAPACK in double",
           [&] { deviation = deviationFromLapack(normals, points, neighbours, neighbourhood); });
     stage("time the peers", [&] { bars = measure(matrices); });
-    stage("project, shade, write demo.png", [&] { savePicture("demo.png", points, view, normals, bars); });
+    stage("project, shade, write demo.png", [&] { savePicture("demo.png", points, view, normals, bars, note); });
 
     std::printf("\n%d points: %s\n\nns a matrix        beside zepm, 1 thread\n", points.count(), points.caption.c_str());
     for (const Bar& bar : bars)
@@ -129,7 +137,7 @@ int run(int argc, char** argv)
     std::printf("\nlargest angle to LAPACK: %.5f degrees over %d of %d neighbourhoods\n"
                 "  (those whose two smaller eigenvalues differ by more than 1e-3 of the trace)\n",
                 deviation.degrees, deviation.compared, points.count());
-    if (rescaled > 0) std::printf("%d iterations did not end until the matrix was scaled\n", rescaled);
+    if (redone > 0) std::printf("%s\n", note.c_str());
     return compareRuns(points, neighbours) ? 0 : 1;
 }
 

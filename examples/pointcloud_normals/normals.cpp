@@ -1,5 +1,6 @@
 #include "normals.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace
@@ -7,27 +8,34 @@ namespace
 
 constexpr int sz = sizeof(float);
 
-Status solveArray(const float* matrices, EigenSystems& systems, size_t first, int count)
+Status solveArray(const float* matrices, float* values, float* vectors, int count)
 {
     float scratch[9];
-    return zepmEigenValuesVectorsSym_ma_32f(matrices + 9 * first, 9 * sz, 3 * sz, sz, scratch, &systems.vectors[9 * first],
-                                            9 * sz, 3 * sz, sz, &systems.values[3 * first], 3, count);
+    return zepmEigenValuesVectorsSym_ma_32f(matrices, 9 * sz, 3 * sz, sz, scratch, vectors, 9 * sz, 3 * sz, sz,
+                                            values, 3, count);
 }
 
-// By halves down to the objects that fail.
-int solveHalves(std::vector<float>& matrices, EigenSystems& systems, size_t first, int count)
+// With rows and columns in reverse a matrix has the same eigenvalues, and eigenvectors whose elements are in reverse.
+void solveReversed(const float* matrix, EigenSystems& systems, size_t at)
 {
-    Status status = solveArray(matrices.data(), systems, first, count);
+    float reversed[9];
+    std::reverse_copy(matrix, matrix + 9, reversed);
+    float *const values = &systems.values[3 * at], *const vectors = &systems.vectors[9 * at];
+    require(solveArray(reversed, values, vectors, 1), "zepmEigenValuesVectorsSym_ma_32f");
+    std::swap_ranges(vectors, vectors + 3, vectors + 6);
+}
+
+// An object that fails ends the call and is not named: it is found by halves.
+int solveHalves(const std::vector<float>& matrices, EigenSystems& systems, size_t first, int count)
+{
+    const Status status =
+        solveArray(&matrices[9 * first], &systems.values[3 * first], &systems.vectors[9 * first], count);
     if (status == stsOk) return 0;
+    if (status != stsEigenFailErr) require(status, "zepmEigenValuesVectorsSym_ma_32f");
     if (count > 1)
         return solveHalves(matrices, systems, first, count / 2) +
                solveHalves(matrices, systems, first + static_cast<size_t>(count / 2), count - count / 2);
-    for (int attempt = 0; attempt < 3 && status == stsEigenFailErr; ++attempt)
-    {
-        for (size_t n = 9 * first; n < 9 * (first + 1); ++n) matrices[n] *= 1.25f;
-        status = solveArray(matrices.data(), systems, first, 1);
-    }
-    require(status, "zepmEigenValuesVectorsSym_ma_32f");
+    solveReversed(&matrices[9 * first], systems, first);
     return 1;
 }
 
@@ -88,12 +96,17 @@ std::vector<float> covariances(const Points& points, const std::vector<int>& nei
     return matrices;
 }
 
-int solve(std::vector<float>& matrices, EigenSystems& systems)
+int solve(const std::vector<float>& matrices, EigenSystems& systems)
 {
+    constexpr size_t block = 2048; // no more than that is computed again for one that fails
+
     const size_t count = matrices.size() / 9;
     systems.values.resize(3 * count);
     systems.vectors.resize(9 * count);
-    return solveHalves(matrices, systems, 0, static_cast<int>(count));
+    int redone = 0;
+    for (size_t first = 0; first < count; first += block)
+        redone += solveHalves(matrices, systems, first, static_cast<int>(std::min(block, count - first)));
+    return redone;
 }
 
 std::vector<float> normalsOf(const EigenSystems& systems, const Points& points, const float (&eye)[3])

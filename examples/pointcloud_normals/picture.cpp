@@ -151,7 +151,7 @@ private:
     void use(Colour colour) { cairo_set_source_rgb(cairo.get(), colour.r, colour.g, colour.b); }
 };
 
-void drawBars(Canvas& canvas, const std::vector<Bar>& bars)
+void drawBars(Canvas& canvas, const std::vector<Bar>& bars, const std::string& note)
 {
     constexpr double x = 2 * panelWidth + 24, width = chartWidth - 48, step = 78;
     double longest = 0;
@@ -166,6 +166,7 @@ void drawBars(Canvas& canvas, const std::vector<Bar>& bars)
         canvas.fill(x, y + 22, std::max(2.0, width * bar.nanoseconds / longest), 22, ours ? accent : other);
         y += step;
     }
+    canvas.text(x, y + 14, 12, note, other);
 }
 
 } // namespace
@@ -202,7 +203,7 @@ View viewOf(const Points& points)
 }
 
 void savePicture(const std::string& path, const Points& points, const View& view, const std::vector<float>& normals,
-                 const std::vector<Bar>& bars)
+                 const std::vector<Bar>& bars, const std::string& note)
 {
     const std::vector<float> screen = projected(points, view);
     const auto dots = std::make_unique<Panel>(), shaded = std::make_unique<Panel>();
@@ -218,6 +219,6 @@ void savePicture(const std::string& path, const Points& points, const View& view
     const double y = panelHeight + 28;
     canvas.text(16, y, 16, std::to_string(points.count()) + " points: " + points.caption);
     canvas.text(panelWidth + 16, y, 16, "the same points, shaded by the normals computed from their neighbourhoods");
-    drawBars(canvas, bars);
+    drawBars(canvas, bars, note);
     canvas.save(path);
 }

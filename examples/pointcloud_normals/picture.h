@@ -1,4 +1,4 @@
-// The picture: the points as dots, the points shaded by their normals, and the times as bars.
+// The picture: the points as dots, the points shaded by their normals, and the times as bars over a note.
 #pragma once
 
 #include "points.h"
@@ -21,4 +21,4 @@ struct Bar
 };
 
 void savePicture(const std::string& path, const Points& points, const View& view, const std::vector<float>& normals,
-                 const std::vector<Bar>& bars);
+                 const std::vector<Bar>& bars, const std::string& note);

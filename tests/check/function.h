@@ -174,8 +174,9 @@ struct Function
     std::variant<std::monostate, Reference<float32>, Reference<float64>> reference;
     // Instead of values over many orders of magnitude in the sources, where the family needs others.
     std::variant<std::monostate, Values<float32>, Values<float64>> values;
-    bool worksInPlace = false; // the destination may be any source of its shape
-    bool nansAlike = false;    // sums of several terms: which of two NaNs survives is not fixed
+    bool worksInPlace = false;                                    // the destination may be any source of its shape
+    std::function<bool(const Sizes&, bool isPacked)> onlyInPlace; // if set, for these calls alone
+    bool nansAlike = false; // sums of several terms: which of two NaNs survives is not fixed
 
     Status call(const std::vector<Arg>& args) const { return exported.caller(exported.function, args); }
     bool isArray() const;

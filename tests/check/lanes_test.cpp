@@ -7,11 +7,13 @@
 #include "zepcore.h"
 
 #include <algorithm>
+#include <cfenv>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <immintrin.h>
 #include <set>
 #include <stdexcept>
 
@@ -205,7 +207,12 @@ TEST_P(AliasLane, InPlace)
                 source.isArray != dst.isArray)
                 continue;
             for (const Strides strides : nearStrides)
+            {
+                const bool isPacked =
+                    strides == Strides::Dense || strides == Strides::Gapped || strides == Strides::Records;
+                if (function.onlyInPlace && !function.onlyInPlace(sizes, isPacked)) continue;
                 if (!passes({sizes, function.isArray() ? 37 : 1, strides, {}, 1, static_cast<int>(n)})) return;
+            }
         }
 }
 
@@ -483,6 +490,33 @@ TEST_P(DriverLane, ThreadsAndLevels)
                     if (!callPasses()) return;
                 }
         }
+}
+
+// The caller's rounding mode, and whether subnormal numbers are flushed to zero, hold in every thread of the team,
+// which was made before they were set.
+TEST_P(DriverLane, RoundingModes)
+{
+    Case chosen{
+        function.written, countFor(function, function.written, function.limits.packed, 8) + 3, Strides::Dense, {}};
+    if (!takes(chosen)) return;
+    trial.prepare(chosen);
+    const auto results = [&](int32 threads, int rounding, bool flushes) {
+        const AtThreads atThreads(threads);
+        trial.restore();
+        const std::vector<Arg> args = Trial::values(trial.args());
+        fenv_t before;
+        fegetenv(&before);
+        fesetround(rounding);
+        if (flushes) _mm_setcsr(_mm_getcsr() | 0x8040); // FTZ and DAZ
+        trial.call(args);
+        fesetenv(&before);
+        return trial.outputs();
+    };
+    results(4, FE_TONEAREST, false);
+    for (const int rounding : {FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO})
+        EXPECT_EQ(results(4, rounding, false), results(1, rounding, false))
+            << words(chosen) << "\n  rounding " << rounding;
+    EXPECT_EQ(results(4, FE_TONEAREST, true), results(1, FE_TONEAREST, true)) << words(chosen) << "\n  flushed to zero";
 }
 
 // A count just below the number of threads, at it, and above, where the driver forks.

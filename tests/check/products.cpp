@@ -189,6 +189,13 @@ Function completed(Function f)
         f.values = Values<T>(choose<T>);
     });
     f.nansAlike = true;
+    if (f.layout == Layout::S && !f.isArray()) // orders 3 and 4 are held in registers
+    {
+        f.worksInPlace = true;
+        f.onlyInPlace = [](const Sizes& sizes, bool isPacked) {
+            return isPacked && (sizes == Sizes{3, 3, 3, 3} || sizes == Sizes{4, 4, 4, 4});
+        };
+    }
     return f;
 }
 

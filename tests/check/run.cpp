@@ -333,4 +333,12 @@ std::string Trial::differenceOfElements() const
     return difference;
 }
 
+std::vector<std::vector<char>> Trial::outputs() const
+{
+    std::vector<std::vector<char>> list;
+    for (size_t n = 0; n < images.size(); ++n)
+        if (function.operands[n].isDst) list.emplace_back(images[n].bytes().begin(), images[n].bytes().end());
+    return list;
+}
+
 } // namespace check

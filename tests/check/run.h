@@ -49,6 +49,9 @@ public:
     // The elements alone, where too many bytes lie between them.
     std::string differenceOfElements() const;
 
+    // All bytes of the destinations, for comparison with another run.
+    std::vector<std::vector<char>> outputs() const;
+
     const Function& function;
 
 private:

@@ -401,6 +401,7 @@ TEST(SymmetricOrder2, TolerancesDiffer)
         for (const int threads : {1, 3})
         {
             zepSetNumThreads(threads);
+            zepSetMinParallelWork(0); // the limits of the functions alone
             std::vector<float32> a, wide, buffer(4), w(800), v(1600);
             std::vector<const float32*> table;
             for (int k = 0; k < count; ++k)
@@ -488,6 +489,7 @@ TYPED_TEST(Symmetric, PartialResults)
                         for (auto* list : {&array.vectors, &array.values, &array.buffer})
                             std::fill(list->begin(), list->end(), untouched);
                         zepSetNumThreads(threads);
+                        zepSetMinParallelWork(0); // the limits of the functions alone
                         const Status status = array.solve(withVectors);
                         zepSetNumThreads(1);
                         SCOPED_TRACE("order " + std::to_string(n) + ", " + std::to_string(threads) + " threads");

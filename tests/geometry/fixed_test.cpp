@@ -285,6 +285,27 @@ TEST(Single, InverseByEstimate)
     }
 }
 
+// The step squares the estimate: that of a smaller determinant overflows, that of a larger one loses its bits.
+TEST(Single, InverseHasItsRange)
+{
+    float32 m[16], d[16];
+    std::memcpy(m, identity, sizeof m);
+    for (int exponent = -64; exponent <= 62; ++exponent)
+        for (int n = 0; n < 100; ++n)
+        {
+            m[0] = std::ldexp(between(1, 2), exponent);
+            if (n % 2) m[0] = -m[0];
+            ASSERT_EQ(zepmInvert_m4_32f(m, nullptr, d), stsOk);
+            ASSERT_NEAR(static_cast<float64>(m[0]) * d[0], 1, 0x1p-21) << m[0];
+        }
+    m[0] = 0x1p-65f;
+    EXPECT_EQ(zepmInvert_m4_32f(m, nullptr, d), stsOk);
+    EXPECT_TRUE(std::isinf(d[0]));
+    m[0] = 0x1p80f;
+    EXPECT_EQ(zepmInvert_m4_32f(m, nullptr, d), stsOk);
+    EXPECT_NEAR(m[0] * d[0], 2, 0.01);
+}
+
 // Down column 0, the rows 3 + 1 and 2 + 0 in pairs: whole numbers elsewhere make the cofactors exact.
 TEST(Single, OrderOfTheInversesDeterminant)
 {

@@ -70,11 +70,11 @@ bool childIsRight(int32 expectedThreads)
 
 // ---- The number of threads ------------------------------------------------------------------------------------------
 
-TEST(NumThreads, KeepsWhatIsSetAndRefusesLessThanOne)
+TEST(NumThreads, KeepsWhatIsSetAndRefusesLessThanOneAndWhatNoSystemGives)
 {
     ASSERT_EQ(stsOk, zepSetNumThreads(3));
     EXPECT_EQ(3, ownGetNumThreads());
-    for (const int32 refused : {0, -1, std::numeric_limits<int32>::min()})
+    for (const int32 refused : {0, -1, std::numeric_limits<int32>::min(), 40000, std::numeric_limits<int32>::max()})
     {
         EXPECT_EQ(stsSizeErr, zepSetNumThreads(refused));
         EXPECT_EQ(3, ownGetNumThreads());
@@ -171,6 +171,19 @@ TEST_F(InNewProcess, LessWorkThanTheLeastStaysOnTheCallingThread)
         endWith(addsRight(zepmAdd_vava_32f) && threadsOfThisProcess() == 2);
     };
     EXPECT_EXIT(call(), ExitedWithCode(0), "");
+}
+
+// The setting is made when the library is loaded, which the child does anew.
+TEST_F(InNewProcess, LeastWorkIsMoreWhereIdleThreadsSleep)
+{
+    auto tell = [] {
+        std::fprintf(stderr, "least work: %d\n", static_cast<int>(ownGetMinParallelWork()));
+        std::_Exit(0);
+    };
+    setenv("OMP_WAIT_POLICY", "active", 1);
+    EXPECT_EXIT(tell(), ExitedWithCode(0), "least work: 200000\n");
+    setenv("OMP_WAIT_POLICY", "PASSIVE", 1);
+    EXPECT_EXIT(tell(), ExitedWithCode(0), "least work: 2000000\n");
 }
 
 TEST(MinParallelWork, KeepsWhatIsSetAndRefusesLessThanNothing)

@@ -398,6 +398,7 @@ TYPED_TEST(Lu, FirstFailureEndsTheShare)
                 for (int i = 0; i < n; ++i) m.at(singular, i, n - 1) = 0;
             Matrices<T> expected = m;
             zepSetNumThreads(threads);
+            zepSetMinParallelWork(0); // the limits of the functions alone
             EXPECT_EQ(m.factor(), stsSingularErr);
             zepSetNumThreads(1);
             const int share = 64 / threads;
