@@ -202,11 +202,24 @@ ZEPM_INLINE void transpose(Vec<T, N> (&x)[N])
 
 // ---- Vectors of two or three elements without gaps, element j of N of them in x[j] ----------------------------------
 
+// Whether lanes are taken from anywhere in two registers by one instruction: then whole registers move, not pieces.
+template <class T, int N, int Size>
+inline constexpr bool shufflesWhole = registerBytes == 64 && N == lanes<T>&& Size == 3;
+
 // Vector v is lane v: pieces 3 * g to 3 * g + 2 in memory hold the vectors of piece g of each register.
 template <class T, int N, int Size>
 ZEPM_INLINE void loadDense(const char* p, Vec<T, N> (&x)[Size])
 {
     static_assert(Size == 2 || Size == 3);
+    if constexpr (shufflesWhole<T, N, Size>)
+    {
+        const Vec<T, N> a = loadVec<T, N>(p), b = loadVec<T, N>(p + N * sz<T>), c = loadVec<T, N>(p + 2 * N * sz<T>);
+        each<3>([&]<int J>() ZEPM_INLINED { // element J of vector n is element 3 * n + J of a, b and c
+            const Vec<T, N> ab = shuffle<T, N>(a, b, [](int n) { return 3 * n + J < 2 * N ? 3 * n + J : 0; });
+            x[J] = shuffle<T, N>(ab, c, [](int n) { return 3 * n + J < 2 * N ? n : 3 * n + J - N; });
+        });
+        return;
+    }
     Vec<T, N> r[Size];
     each<Size>([&]<int I>() ZEPM_INLINED {
         r[I] = joinParts<T, pieceLength<T>, N / pieceLength<T>>(
@@ -244,7 +257,22 @@ ZEPM_INLINE void storeDense(char* p, const Vec<T, N> (&x)[Size])
 {
     static_assert(Size == 2 || Size == 3);
     Vec<T, N> r[Size];
-    if constexpr (Size == 2)
+    if constexpr (shufflesWhole<T, N, Size>)
+    {
+        each<3>([&]<int I>() ZEPM_INLINED { // lane n of r[I] is element (I * N + n) % 3 of vector (I * N + n) / 3
+            const Vec<T, N> xy = shuffle<T, N>(x[0], x[1], [](int n) {
+                const int element = I * N + n;
+                return element / 3 + (element % 3 == 1 ? N : 0);
+            });
+            r[I] = shuffle<T, N>(xy, x[2], [](int n) { return (I * N + n) % 3 == 2 ? N + (I * N + n) / 3 : n; });
+        });
+        if constexpr (!Streams)
+        {
+            each<3>([&]<int I>() ZEPM_INLINED { storeVec<T, N>(p + I * N * sz<T>, r[I]); });
+            return;
+        }
+    }
+    else if constexpr (Size == 2)
     {
         r[0] = interleave<T, N, 1, false>(x[0], x[1]);
         r[1] = interleave<T, N, 1, true>(x[0], x[1]);
@@ -266,7 +294,7 @@ ZEPM_INLINE void storeDense(char* p, const Vec<T, N> (&x)[Size])
     }
     each<Size>([&]<int I>() ZEPM_INLINED {
         splitParts<T, pieceLength<T>, N / pieceLength<T>>(r[I], [&]<int G>(Vec<T, pieceLength<T>> piece) ZEPM_INLINED {
-            char* const to = p + (G * Size + I) * 16;
+            char* const to = p + (shufflesWhole<T, N, Size> ? I * N * sz<T> + G * 16 : (G * Size + I) * 16);
             if constexpr (Streams)
                 streamPiece(to, piece);
             else
