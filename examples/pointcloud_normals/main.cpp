@@ -131,7 +131,8 @@ int run(int argc, char** argv)
     stage("time the peers", [&] { bars = measure(matrices); });
     stage("project, shade, write demo.png", [&] { savePicture("demo.png", points, view, normals, bars, note); });
 
-    std::printf("\n%d points: %s\n\nns a matrix        beside zepm, 1 thread\n", points.count(), points.caption.c_str());
+    std::printf("\n%d points: %s\n\nns a matrix        beside zepm, 1 thread\n", points.count(),
+                points.caption.c_str());
     for (const Bar& bar : bars)
         std::printf("%10.1f  %8.2f  %s\n", bar.nanoseconds, bar.nanoseconds / bars[0].nanoseconds, bar.label.c_str());
     std::printf("\nlargest angle to LAPACK: %.5f degrees over %d of %d neighbourhoods\n"

@@ -11,8 +11,8 @@ constexpr int sz = sizeof(float);
 Status solveArray(const float* matrices, float* values, float* vectors, int count)
 {
     float scratch[9];
-    return zepmEigenValuesVectorsSym_ma_32f(matrices, 9 * sz, 3 * sz, sz, scratch, vectors, 9 * sz, 3 * sz, sz,
-                                            values, 3, count);
+    return zepmEigenValuesVectorsSym_ma_32f(matrices, 9 * sz, 3 * sz, sz, scratch, vectors, 9 * sz, 3 * sz, sz, values,
+                                            3, count);
 }
 
 // With rows and columns in reverse a matrix has the same eigenvalues, and eigenvectors whose elements are in reverse.

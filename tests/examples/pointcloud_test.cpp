@@ -121,8 +121,8 @@ double worstResidual(const std::vector<float>& matrices, const EigenSystems& sys
     for (size_t k = 0; 9 * k < matrices.size(); ++k)
     {
         const float *const a = &matrices[9 * k], *const v = &systems.vectors[9 * k], *const w = &systems.values[3 * k];
-        const double size = std::abs(*std::max_element(
-            a, a + 9, [](float x, float y) { return std::abs(x) < std::abs(y); }));
+        const double size =
+            std::abs(*std::max_element(a, a + 9, [](float x, float y) { return std::abs(x) < std::abs(y); }));
         for (size_t i = 0; i < 3; ++i)
             for (size_t j = 0; j < 3; ++j)
             {

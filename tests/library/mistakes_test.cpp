@@ -1,5 +1,5 @@
-// What a program compiled with ZEPM_CHECK is told of its mistakes. The status of each of these calls would be stsOk, but
-// for the one that would crash.
+// What a program compiled with ZEPM_CHECK is told of its mistakes. The status of each of these calls would be stsOk,
+// but for the one that would crash.
 #define ZEPM_CHECK 2
 #include <zepm.h>
 
@@ -140,8 +140,7 @@ TEST_F(Mistakes, CountBeyondTheArray)
 TEST_F(Mistakes, AreNotSeenInGoodCalls)
 {
     EXPECT_EQ(stsOk, multiply(a, a, d)) << "one source twice";
-    EXPECT_EQ(stsOk,
-              zepmMul_mama_32f(a, matrix, sz, row, 3, 3, b, matrix, row, sz, 3, 3, d, matrix, sz, row, count))
+    EXPECT_EQ(stsOk, zepmMul_mama_32f(a, matrix, sz, row, 3, 3, b, matrix, row, sz, 3, 3, d, matrix, sz, row, count))
         << "by columns";
     EXPECT_EQ(stsOk, zepmAdd_vava_32f(a, row, sz, b, row, sz, b, row, sz, 3, count)) << "in place";
     EXPECT_EQ(stsOk, zepmAdd_vac_32f(a, 24, 8, 1, a + 1, 24, 8, 3, count)) << "in the gaps of the source";
