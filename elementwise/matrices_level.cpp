@@ -429,6 +429,18 @@ void combineMatrices(Op op, MatrixCall& c)
     areMatricesStreamed<T>(c) ? combineStreaming<T>(op, c) : combineInTiles<T>(op, c);
 }
 
+template <class T>
+void transposeMatrices(const MatrixCall& c)
+{
+    struct None // no operation
+    {
+    };
+    if (areMatricesStreamed<T>(c))
+        streamCall(c, c.d.step, [](const MatrixCall& part) { combineTransposed<Second::None, T>(None{}, part); });
+    else
+        combineTransposed<Second::None, T>(None{}, c);
+}
+
 template void combineMatrices<float32, Plus>(Plus, MatrixCall&);
 template void combineMatrices<float64, Plus>(Plus, MatrixCall&);
 template void combineMatrices<float32, Minus>(Minus, MatrixCall&);
@@ -437,5 +449,7 @@ template void combineMatrices<float32, MinusFrom>(MinusFrom, MatrixCall&);
 template void combineMatrices<float64, MinusFrom>(MinusFrom, MatrixCall&);
 template void combineMatrices<float32, Times>(Times, MatrixCall&);
 template void combineMatrices<float64, Times>(Times, MatrixCall&);
+template void transposeMatrices<uint32_t>(const MatrixCall&);
+template void transposeMatrices<uint64_t>(const MatrixCall&);
 
 } // namespace zepm::ZEPM_LEVEL

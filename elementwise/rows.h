@@ -37,11 +37,14 @@ struct MatrixCall : RowCall
     bool isTransposedA, isTransposedB;
 };
 
+// transposeMatrices is d = a, a transposed, and no operation: elements are bits, and b, a constant, is not looked at.
+//
 // combineDense takes rows of which each begins where the one before ends, constants likewise. Its arguments stay in
 // registers: a short dense call takes about a cycle a result, and storing an argument struct would be a tenth of it.
 ZEPM_EACH_LEVEL(template <class T, class Op> void combineDense(Op op, const char* a, const char* b, char* d,
                                                                ptrdiff_t width, ptrdiff_t count, Sources sources);
                 template <class T, class Op> void combineRows(Op op, const RowCall& call);
-                template <class T, class Op> void combineMatrices(Op op, MatrixCall& call);)
+                template <class T, class Op> void combineMatrices(Op op, MatrixCall& call);
+                template <class T> void transposeMatrices(const MatrixCall& call);)
 
 } // namespace zepm

@@ -2,6 +2,7 @@
  *
  *   zepm_types.h        types, status codes, how names and layouts are read
  *   zepm_elementwise.h  Add, Sub, Mul by a constant
+ *   zepm_movement.h     Copy, Extract, LoadIdentity, Transpose
  *   zepm_product.h      products of matrices
  *   zepm_solver.h       direct solvers
  *   zepm_eigen.h        eigenproblems
@@ -14,6 +15,7 @@
 #include "zepm_eigen.h"
 #include "zepm_elementwise.h"
 #include "zepm_geometry.h"
+#include "zepm_movement.h"
 #include "zepm_product.h"
 #include "zepm_solver.h"
 #include "zepm_types.h"

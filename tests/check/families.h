@@ -1,6 +1,7 @@
 // The families, one a line. The rows of each are in the source of its name here, which defines families::<name>().
 FAMILY(vectors)
 FAMILY(matrices)
+FAMILY(movement)
 FAMILY(products)
 FAMILY(solvers)
 FAMILY(symmetric)

@@ -166,7 +166,7 @@ struct Function
     std::function<std::pair<int, int>(const Operand&, const Sizes&)> shape; // rows and columns as stored
     std::function<bool(const Sizes&)> sizesMatch;                           // where validation has a step M
 
-    std::string order;                 // steps of validation: N C Z M T R
+    std::string order; // steps of validation: N C Z M T R, and O where stride0 has a step of its own, above one object
     std::vector<std::string> untested; // strides and shifts that validation leaves out, by argument name
     Limits limits;
     std::function<int32(const Sizes&, int32)> estimate; // of the sizes and the count

@@ -1,0 +1,49 @@
+// zepmExtract_ma: d[k](i, j) = s[k](i, j). The destination has no gaps.
+#include "movement/move.h"
+#include "zepm_movement.h"
+
+using namespace zepm;
+
+Status zepmExtract_ma_32f(const float32* pSrc, int32 srcStride0, int32 srcStride1, int32 srcStride2, float32* pDst,
+                          int32 width, int32 height, int32 count)
+{
+    const ExtractMa<float32, S> x{{bits(pSrc), srcStride0, srcStride1, srcStride2}, {bits(pDst)}, width, height, count};
+    return enterQuick(x, AsRun{}, order<Pointers, Sizes, Count, Strides>{}, moveElements<ExtractMa<float32, S>>);
+}
+
+Status zepmExtract_ma_32f_L(const float32* const* ppSrc, int32 srcRoiShift, int32 srcStride1, int32 srcStride2,
+                            float32* pDst, int32 width, int32 height, int32 count)
+{
+    const ExtractMa<float32, L> x{
+        {bits(ppSrc), srcRoiShift, srcStride1, srcStride2}, {bits(pDst)}, width, height, count};
+    return enter(x, order<Pointers, Sizes, Count, RoiShifts, Strides>{}, moveElements);
+}
+
+Status zepmExtract_ma_32f_P(const float32* const* ppSrc, int32 srcRoiShift, int32 srcStride0, float32* pDst,
+                            int32 width, int32 height, int32 count)
+{
+    const ExtractMa<float32, P> x{{bits(ppSrc), srcRoiShift, srcStride0}, {bits(pDst)}, width, height, count};
+    return enter(x, order<Pointers, Sizes, Count, RoiShifts, Strides>{}, moveElements);
+}
+
+Status zepmExtract_ma_64f(const float64* pSrc, int32 srcStride0, int32 srcStride1, int32 srcStride2, float64* pDst,
+                          int32 width, int32 height, int32 count)
+{
+    const ExtractMa<float64, S> x{{bits(pSrc), srcStride0, srcStride1, srcStride2}, {bits(pDst)}, width, height, count};
+    return enterQuick(x, AsRun{}, order<Pointers, Sizes, Count, Strides>{}, moveElements<ExtractMa<float64, S>>);
+}
+
+Status zepmExtract_ma_64f_L(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride1, int32 srcStride2,
+                            float64* pDst, int32 width, int32 height, int32 count)
+{
+    const ExtractMa<float64, L> x{
+        {bits(ppSrc), srcRoiShift, srcStride1, srcStride2}, {bits(pDst)}, width, height, count};
+    return enter(x, order<Pointers, Sizes, Count, RoiShifts, Strides>{}, moveElements);
+}
+
+Status zepmExtract_ma_64f_P(const float64* const* ppSrc, int32 srcRoiShift, int32 srcStride0, float64* pDst,
+                            int32 width, int32 height, int32 count)
+{
+    const ExtractMa<float64, P> x{{bits(ppSrc), srcRoiShift, srcStride0}, {bits(pDst)}, width, height, count};
+    return enter(x, order<Pointers, Sizes, Count, RoiShifts, Strides>{}, moveElements);
+}
