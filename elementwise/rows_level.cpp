@@ -227,7 +227,7 @@ template <class T, int Length, class Lying, class Op>
     const RowElements<T, Lying> a{Lying(c.a, k)};
     const Lying d(c.d, k);
     if (c.isConstant && c.b.isFixed()) return rows<T, Length>(op, a, OneConstant<T>{load<T>(c.b.p)}, d, c.width, count);
-    if constexpr (takesConstants<Length>)
+    if constexpr (takesConstants<Length> && takesConstantArrays<Op>)
     {
         if (c.isConstant)
         {
@@ -388,8 +388,8 @@ template <class T, int Length, Sources sources, bool Streams, class Op>
     if (done < count) oneByOne<T>(op, c, done, count - done);
 }
 
-// count is at least one group. A remainder is served by a first group that the second one overlaps, so that some results
-// are computed twice; where a source may overlap the destination, by single rows behind the last group.
+// count is at least one group. A remainder is served by a first group that the second one overlaps, so that some
+// results are computed twice; where a source may overlap the destination, by single rows behind the last group.
 template <class T, int Length, Sources sources, class Op>
 [[gnu::noinline]] void grouped(Op op, const char* a, const char* b, char* d, ptrdiff_t count)
 {
@@ -475,8 +475,12 @@ void combineDense(Op op, const char* a, const char* b, char* d, ptrdiff_t width,
     {
     case Sources::RowsAndRows: return oneRow<T>(op, a, b, d, width * count);
     case Sources::RowsAndOneConstant: return oneRow<T>(op, a, load<T>(b), d, width * count);
-    case Sources::RowsAndConstants: return denseRows<T, Sources::RowsAndConstants>(op, a, b, d, width, count);
-    case Sources::OneRowAndConstants: return denseRows<T, Sources::OneRowAndConstants>(op, a, b, d, width, count);
+    case Sources::RowsAndConstants:
+        if constexpr (takesConstantArrays<Op>) denseRows<T, Sources::RowsAndConstants>(op, a, b, d, width, count);
+        return;
+    case Sources::OneRowAndConstants:
+        if constexpr (takesConstantArrays<Op>) denseRows<T, Sources::OneRowAndConstants>(op, a, b, d, width, count);
+        return;
     case Sources::RowsAndOneRow:
         if constexpr (!takesConstantAlone<Op>) denseRows<T, Sources::RowsAndOneRow>(op, a, b, d, width, count);
     }
@@ -511,5 +515,23 @@ template void combineRows<float32, MinusFrom>(MinusFrom, const RowCall&);
 template void combineRows<float64, MinusFrom>(MinusFrom, const RowCall&);
 template void combineRows<float32, Times>(Times, const RowCall&);
 template void combineRows<float64, Times>(Times, const RowCall&);
+template void combineDense<float32, ScaledPlus<float32>>(ScaledPlus<float32>, const char*, const char*, char*,
+                                                         ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<float64, ScaledPlus<float64>>(ScaledPlus<float64>, const char*, const char*, char*,
+                                                         ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<float32, PlusScaled<float32>>(PlusScaled<float32>, const char*, const char*, char*,
+                                                         ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<float64, PlusScaled<float64>>(PlusScaled<float64>, const char*, const char*, char*,
+                                                         ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<float32, WeightedSum<float32>>(WeightedSum<float32>, const char*, const char*, char*,
+                                                          ptrdiff_t, ptrdiff_t, Sources);
+template void combineDense<float64, WeightedSum<float64>>(WeightedSum<float64>, const char*, const char*, char*,
+                                                          ptrdiff_t, ptrdiff_t, Sources);
+template void combineRows<float32, ScaledPlus<float32>>(ScaledPlus<float32>, const RowCall&);
+template void combineRows<float64, ScaledPlus<float64>>(ScaledPlus<float64>, const RowCall&);
+template void combineRows<float32, PlusScaled<float32>>(PlusScaled<float32>, const RowCall&);
+template void combineRows<float64, PlusScaled<float64>>(PlusScaled<float64>, const RowCall&);
+template void combineRows<float32, WeightedSum<float32>>(WeightedSum<float32>, const RowCall&);
+template void combineRows<float64, WeightedSum<float64>>(WeightedSum<float64>, const RowCall&);
 
 } // namespace zepm::ZEPM_LEVEL

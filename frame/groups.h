@@ -95,21 +95,31 @@ inline constexpr bool hasContiguousRows<StridedView<T, true, Fixed>> = true;
 template <class T>
 inline constexpr bool hasContiguousRows<ListView<T, true>> = true;
 
-// M contiguous elements at p[n] for each lane n; element e of all of them becomes x[e].
-template <class T, int W, int M, int First = 0>
-ZEPM_INLINE void loadTransposed(const char* const* p, Vec<T, W>* x)
+// M contiguous elements of each lane become x[0] to x[M - 1]. piece.operator()<R, First, Length>() gives Length of them
+// from element First on, of every lane whose number in its piece is R, each at the place of its piece.
+template <class T, int W, int M, int First = 0, class Piece>
+ZEPM_INLINE void transposeFrom(Piece piece, Vec<T, W>* x)
 {
     constexpr int C = pieceLength<T>;
     constexpr int length = M - First < C ? M - First : C;
     Vec<T, W> square[C];
-    each<C>([&]<int R>() ZEPM_INLINED {
-        square[R] = joinParts<T, C, W / C>(
-            [&]<int G>() ZEPM_INLINED { return loadFirst<T, C, length>(p[G * C + R] + First * sz<T>); });
-    });
+    each<C>([&]<int R>() ZEPM_INLINED { square[R] = piece.template operator()<R, First, length>(); });
     transposePieces<T, W>(square);
     ZEPM_UNROLL
     for (int e = 0; e < length; ++e) x[First + e] = square[e];
-    if constexpr (M - First > C) loadTransposed<T, W, M, First + C>(p, x);
+    if constexpr (M - First > C) transposeFrom<T, W, M, First + C>(piece, x);
+}
+
+// M contiguous elements at p[n] for each lane n; element e of all of them becomes x[e].
+template <class T, int W, int M>
+ZEPM_INLINE void loadTransposed(const char* const* p, Vec<T, W>* x)
+{
+    constexpr int C = pieceLength<T>;
+    const auto piece = [&]<int R, int First, int Length>() ZEPM_INLINED {
+        return joinParts<T, C, W / C>(
+            [&]<int G>() ZEPM_INLINED { return loadFirst<T, C, Length>(p[G * C + R] + First * sz<T>); });
+    };
+    transposeFrom<T, W, M>(piece, x);
 }
 
 // The same to memory.

@@ -206,25 +206,11 @@ ZEPM_INLINE void transpose(Vec<T, N> (&x)[N])
 template <class T, int N, int Size>
 inline constexpr bool shufflesWhole = registerBytes == 64 && N == lanes<T>&& Size == 3;
 
-// Vector v is lane v: pieces 3 * g to 3 * g + 2 in memory hold the vectors of piece g of each register.
+// From pieces side by side, piece I of each group of Size of them in r[I].
 template <class T, int N, int Size>
-ZEPM_INLINE void loadDense(const char* p, Vec<T, N> (&x)[Size])
+ZEPM_INLINE void separateDense(const Vec<T, N> (&r)[Size], Vec<T, N> (&x)[Size])
 {
     static_assert(Size == 2 || Size == 3);
-    if constexpr (shufflesWhole<T, N, Size>)
-    {
-        const Vec<T, N> a = loadVec<T, N>(p), b = loadVec<T, N>(p + N * sz<T>), c = loadVec<T, N>(p + 2 * N * sz<T>);
-        each<3>([&]<int J>() ZEPM_INLINED { // element J of vector n is element 3 * n + J of a, b and c
-            const Vec<T, N> ab = shuffle<T, N>(a, b, [](int n) { return 3 * n + J < 2 * N ? 3 * n + J : 0; });
-            x[J] = shuffle<T, N>(ab, c, [](int n) { return 3 * n + J < 2 * N ? n : 3 * n + J - N; });
-        });
-        return;
-    }
-    Vec<T, N> r[Size];
-    each<Size>([&]<int I>() ZEPM_INLINED {
-        r[I] = joinParts<T, pieceLength<T>, N / pieceLength<T>>(
-            [&]<int G>() ZEPM_INLINED { return loadVec<T, pieceLength<T>>(p + (G * Size + I) * 16); });
-    });
     if constexpr (Size == 2 && pieceLength<T> == 4) // x0 y0 x1 y1, x2 y2 x3 y3
     {
         x[0] = shufflePieces<T, N, 0, 2, 0, 2>(r[0], r[1]);
@@ -249,6 +235,27 @@ ZEPM_INLINE void loadDense(const char* p, Vec<T, N> (&x)[Size])
         x[1] = shufflePieces<T, N, 1, 0>(r[0], r[2]);
         x[2] = shufflePieces<T, N, 0, 1>(r[1], r[2]);
     }
+}
+
+// Vector v is lane v: pieces 3 * g to 3 * g + 2 in memory hold the vectors of piece g of each register.
+template <class T, int N, int Size>
+ZEPM_INLINE void loadDense(const char* p, Vec<T, N> (&x)[Size])
+{
+    if constexpr (shufflesWhole<T, N, Size>)
+    {
+        const Vec<T, N> a = loadVec<T, N>(p), b = loadVec<T, N>(p + N * sz<T>), c = loadVec<T, N>(p + 2 * N * sz<T>);
+        each<3>([&]<int J>() ZEPM_INLINED { // element J of vector n is element 3 * n + J of a, b and c
+            const Vec<T, N> ab = shuffle<T, N>(a, b, [](int n) { return 3 * n + J < 2 * N ? 3 * n + J : 0; });
+            x[J] = shuffle<T, N>(ab, c, [](int n) { return 3 * n + J < 2 * N ? n : 3 * n + J - N; });
+        });
+        return;
+    }
+    Vec<T, N> r[Size];
+    each<Size>([&]<int I>() ZEPM_INLINED {
+        r[I] = joinParts<T, pieceLength<T>, N / pieceLength<T>>(
+            [&]<int G>() ZEPM_INLINED { return loadVec<T, pieceLength<T>>(p + (G * Size + I) * 16); });
+    });
+    separateDense<T, N>(r, x);
 }
 
 // The same to memory. Streams stores past the caches, to a multiple of 16.

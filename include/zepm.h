@@ -3,6 +3,7 @@
  *   zepm_types.h        types, status codes, how names and layouts are read
  *   zepm_elementwise.h  Add, Sub, Mul by a constant
  *   zepm_movement.h     Copy, Extract, LoadIdentity, Transpose
+ *   zepm_vector.h       inner and vector products, norms, traces, linear combinations
  *   zepm_product.h      products of matrices
  *   zepm_solver.h       direct solvers
  *   zepm_eigen.h        eigenproblems
@@ -19,6 +20,7 @@
 #include "zepm_product.h"
 #include "zepm_solver.h"
 #include "zepm_types.h"
+#include "zepm_vector.h"
 
 #ifdef __cplusplus
 extern "C" {

@@ -2,6 +2,7 @@
 FAMILY(vectors)
 FAMILY(matrices)
 FAMILY(movement)
+FAMILY(vector_algebra)
 FAMILY(products)
 FAMILY(solvers)
 FAMILY(symmetric)

@@ -56,7 +56,9 @@ struct Tensor
 {
     int count = 1, rows = 1, cols = 1;
     std::vector<T> elements = {};
-    std::vector<const void*> addresses = {}; // where the first element of each object lies, for sums that depend on it
+    // Where the first element of each object lies, and how far apart rows and elements are, for sums that depend on it.
+    std::vector<const void*> addresses = {};
+    ptrdiff_t stride1 = 0, stride2 = 0;
 
     T& at(int k, int i, int j) { return elements[index(k, i, j)]; }
     const T& at(int k, int i, int j) const { return elements[index(k, i, j)]; }

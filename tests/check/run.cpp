@@ -105,6 +105,11 @@ void Trial::fill(const Case& chosen)
         tensor.elements.resize(static_cast<size_t>(tensor.count) * static_cast<size_t>(rows * cols));
         for (int k = 0; k < tensor.count && !operand.isNumber(); ++k)
             tensor.addresses.push_back(images[n].element(k, 0, 0));
+        if (!function.hasTables() && !operand.isNumber())
+        {
+            tensor.stride1 = images[n].element(0, 1, 0) - images[n].element(0, 0, 0);
+            tensor.stride2 = images[n].element(0, 0, 1) - images[n].element(0, 0, 0);
+        }
         if (isSource(n))
             for (T& x : tensor.elements) x = element<T>(random, n == 0);
     }

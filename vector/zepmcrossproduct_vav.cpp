@@ -1,0 +1,82 @@
+// zepmCrossProduct_vav: d[k] = s1[k] x s2
+#include "vector/cross.h"
+#include "vector/crossproduct.h"
+#include "zepm_vector.h"
+
+namespace zepm
+{
+
+Status ownCrossProduct_vav_32f_Packed(const CrossVav<float32, S>& x) { return crossPacked(x); }
+Status ownCrossProduct_vav_32f_Strided(const CrossVav<float32, S>& x) { return crossStrided(x); }
+Status ownCrossProduct_vav_32f_L_Packed(const CrossVav<float32, L>& x) { return crossPacked(x); }
+Status ownCrossProduct_vav_32f_L_Strided(const CrossVav<float32, L>& x) { return crossStrided(x); }
+Status ownCrossProduct_vav_32f_P(const CrossVav<float32, P>& x) { return crossTable(x); }
+Status ownCrossProduct_vav_64f_Packed(const CrossVav<float64, S>& x) { return crossPacked(x); }
+Status ownCrossProduct_vav_64f_Strided(const CrossVav<float64, S>& x) { return crossStrided(x); }
+Status ownCrossProduct_vav_64f_L_Packed(const CrossVav<float64, L>& x) { return crossPacked(x); }
+Status ownCrossProduct_vav_64f_L_Strided(const CrossVav<float64, L>& x) { return crossStrided(x); }
+Status ownCrossProduct_vav_64f_P(const CrossVav<float64, P>& x) { return crossTable(x); }
+
+} // namespace zepm
+
+using namespace zepm;
+
+Status zepmCrossProduct_vav_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Stride2, const float32* pSrc2,
+                                int32 src2Stride2, float32* pDst, int32 dstStride0, int32 dstStride2, int32 count)
+{
+    const CrossVav<float32, S> x{
+        {pSrc1, src1Stride0, src1Stride2}, {pSrc2, src2Stride2}, {pDst, dstStride0, dstStride2}, count};
+    return enter(x, order<Pointers, Strides, Count>{}, parallelFrom<3000>{}, ownCrossProduct_vav_32f_Packed,
+                 ownCrossProduct_vav_32f_Strided, ownOMP_zepmCrossProduct_vav_32f);
+}
+
+Status zepmCrossProduct_vav_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int32 src1Stride2,
+                                  const float32* pSrc2, int32 src2Stride2, float32* const* ppDst, int32 dstRoiShift,
+                                  int32 dstStride2, int32 count)
+{
+    const CrossVav<float32, L> x{
+        {ppSrc1, src1RoiShift, src1Stride2}, {pSrc2, src2Stride2}, {ppDst, dstRoiShift, dstStride2}, count};
+    return enter(x, order<Pointers, Strides, RoiShifts, Count>{}, parallelFrom<3000>{},
+                 ownCrossProduct_vav_32f_L_Packed, ownCrossProduct_vav_32f_L_Strided,
+                 ownOMP_zepmCrossProduct_vav_32f_L);
+}
+
+Status zepmCrossProduct_vav_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int32 src1Stride0,
+                                  const float32* const* ppSrc2, int32 src2RoiShift, float32* const* ppDst,
+                                  int32 dstRoiShift, int32 dstStride0, int32 count)
+{
+    const CrossVav<float32, P> x{
+        {ppSrc1, src1RoiShift, src1Stride0}, {ppSrc2, src2RoiShift}, {ppDst, dstRoiShift, dstStride0}, count};
+    return enter(x, order<Pointers, Strides, Count, RoiShifts>{}, parallelFrom<3000>{}, ownCrossProduct_vav_32f_P,
+                 ownOMP_zepmCrossProduct_vav_32f_P);
+}
+
+Status zepmCrossProduct_vav_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Stride2, const float64* pSrc2,
+                                int32 src2Stride2, float64* pDst, int32 dstStride0, int32 dstStride2, int32 count)
+{
+    const CrossVav<float64, S> x{
+        {pSrc1, src1Stride0, src1Stride2}, {pSrc2, src2Stride2}, {pDst, dstStride0, dstStride2}, count};
+    return enter(x, order<Pointers, Strides, Count>{}, parallelFrom<3000>{}, ownCrossProduct_vav_64f_Packed,
+                 ownCrossProduct_vav_64f_Strided, ownOMP_zepmCrossProduct_vav_64f);
+}
+
+Status zepmCrossProduct_vav_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int32 src1Stride2,
+                                  const float64* pSrc2, int32 src2Stride2, float64* const* ppDst, int32 dstRoiShift,
+                                  int32 dstStride2, int32 count)
+{
+    const CrossVav<float64, L> x{
+        {ppSrc1, src1RoiShift, src1Stride2}, {pSrc2, src2Stride2}, {ppDst, dstRoiShift, dstStride2}, count};
+    return enter(x, order<Pointers, Strides, RoiShifts, Count>{}, parallelFrom<3000>{},
+                 ownCrossProduct_vav_64f_L_Packed, ownCrossProduct_vav_64f_L_Strided,
+                 ownOMP_zepmCrossProduct_vav_64f_L);
+}
+
+Status zepmCrossProduct_vav_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int32 src1Stride0,
+                                  const float64* const* ppSrc2, int32 src2RoiShift, float64* const* ppDst,
+                                  int32 dstRoiShift, int32 dstStride0, int32 count)
+{
+    const CrossVav<float64, P> x{
+        {ppSrc1, src1RoiShift, src1Stride0}, {ppSrc2, src2RoiShift}, {ppDst, dstRoiShift, dstStride0}, count};
+    return enter(x, order<Pointers, Strides, Count, RoiShifts>{}, parallelFrom<3000>{}, ownCrossProduct_vav_64f_P,
+                 ownOMP_zepmCrossProduct_vav_64f_P);
+}

@@ -1,0 +1,88 @@
+// zepmLComb_vav: d[k][j] = s1[k][j] * val1 + s2[j] * val2
+#include "vector/lcomb.h"
+#include "vector/linear.h"
+#include "zepm_vector.h"
+
+namespace zepm
+{
+
+Status ownLComb_vav_32f_Packed(const LCombVav<float32, S>& x) { return linearPacked(x); }
+Status ownLComb_vav_32f_Strided(const LCombVav<float32, S>& x) { return linearStrided(x); }
+Status ownLComb_vav_32f_L_Packed(const LCombVav<float32, L>& x) { return linearPacked(x); }
+Status ownLComb_vav_32f_L_Strided(const LCombVav<float32, L>& x) { return linearStrided(x); }
+Status ownLComb_vav_32f_P(const LCombVav<float32, P>& x) { return linearTable(x); }
+Status ownLComb_vav_64f_Packed(const LCombVav<float64, S>& x) { return linearPacked(x); }
+Status ownLComb_vav_64f_Strided(const LCombVav<float64, S>& x) { return linearStrided(x); }
+Status ownLComb_vav_64f_L_Packed(const LCombVav<float64, L>& x) { return linearPacked(x); }
+Status ownLComb_vav_64f_L_Strided(const LCombVav<float64, L>& x) { return linearStrided(x); }
+Status ownLComb_vav_64f_P(const LCombVav<float64, P>& x) { return linearTable(x); }
+
+} // namespace zepm
+
+using namespace zepm;
+
+Status zepmLComb_vav_32f(const float32* pSrc1, int32 src1Stride0, int32 src1Stride2, float32 val1, const float32* pSrc2,
+                         int32 src2Stride2, float32 val2, float32* pDst, int32 dstStride0, int32 dstStride2, int32 len,
+                         int32 count)
+{
+    const LCombVav<float32, S> x{
+        {{pSrc1, src1Stride0, src1Stride2}, {pSrc2, src2Stride2}, {pDst, dstStride0, dstStride2}, len, count},
+        {val1, val2}};
+    return enterLinear(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4501>{}, ownLComb_vav_32f_Packed,
+                       ownLComb_vav_32f_Strided, ownOMP_zepmLComb_vav_32f);
+}
+
+Status zepmLComb_vav_32f_L(const float32* const* ppSrc1, int32 src1RoiShift, int32 src1Stride2, float32 val1,
+                           const float32* pSrc2, int32 src2Stride2, float32 val2, float32* const* ppDst,
+                           int32 dstRoiShift, int32 dstStride2, int32 len, int32 count)
+{
+    const LCombVav<float32, L> x{
+        {{ppSrc1, src1RoiShift, src1Stride2}, {pSrc2, src2Stride2}, {ppDst, dstRoiShift, dstStride2}, len, count},
+        {val1, val2}};
+    return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<4501, 3751>{},
+                 ownLComb_vav_32f_L_Packed, ownLComb_vav_32f_L_Strided, ownOMP_zepmLComb_vav_32f_L);
+}
+
+Status zepmLComb_vav_32f_P(const float32* const* ppSrc1, int32 src1RoiShift, int32 src1Stride0, float32 val1,
+                           const float32* const* ppSrc2, int32 src2RoiShift, float32 val2, float32* const* ppDst,
+                           int32 dstRoiShift, int32 dstStride0, int32 len, int32 count)
+{
+    const LCombVav<float32, P> x{
+        {{ppSrc1, src1RoiShift, src1Stride0}, {ppSrc2, src2RoiShift}, {ppDst, dstRoiShift, dstStride0}, len, count},
+        {val1, val2}};
+    return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<4501>{}, ownLComb_vav_32f_P,
+                 ownOMP_zepmLComb_vav_32f_P);
+}
+
+Status zepmLComb_vav_64f(const float64* pSrc1, int32 src1Stride0, int32 src1Stride2, float64 val1, const float64* pSrc2,
+                         int32 src2Stride2, float64 val2, float64* pDst, int32 dstStride0, int32 dstStride2, int32 len,
+                         int32 count)
+{
+    const LCombVav<float64, S> x{
+        {{pSrc1, src1Stride0, src1Stride2}, {pSrc2, src2Stride2}, {pDst, dstStride0, dstStride2}, len, count},
+        {val1, val2}};
+    return enterLinear(x, order<Pointers, Count, Sizes, Strides>{}, parallelFrom<4501>{}, ownLComb_vav_64f_Packed,
+                       ownLComb_vav_64f_Strided, ownOMP_zepmLComb_vav_64f);
+}
+
+Status zepmLComb_vav_64f_L(const float64* const* ppSrc1, int32 src1RoiShift, int32 src1Stride2, float64 val1,
+                           const float64* pSrc2, int32 src2Stride2, float64 val2, float64* const* ppDst,
+                           int32 dstRoiShift, int32 dstStride2, int32 len, int32 count)
+{
+    const LCombVav<float64, L> x{
+        {{ppSrc1, src1RoiShift, src1Stride2}, {pSrc2, src2Stride2}, {ppDst, dstRoiShift, dstStride2}, len, count},
+        {val1, val2}};
+    return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<4501>{},
+                 ownLComb_vav_64f_L_Packed, ownLComb_vav_64f_L_Strided, ownOMP_zepmLComb_vav_64f_L);
+}
+
+Status zepmLComb_vav_64f_P(const float64* const* ppSrc1, int32 src1RoiShift, int32 src1Stride0, float64 val1,
+                           const float64* const* ppSrc2, int32 src2RoiShift, float64 val2, float64* const* ppDst,
+                           int32 dstRoiShift, int32 dstStride0, int32 len, int32 count)
+{
+    const LCombVav<float64, P> x{
+        {{ppSrc1, src1RoiShift, src1Stride0}, {ppSrc2, src2RoiShift}, {ppDst, dstRoiShift, dstStride0}, len, count},
+        {val1, val2}};
+    return enter(x, order<Pointers, Count, Sizes, Strides, RoiShifts>{}, parallelFrom<4501>{}, ownLComb_vav_64f_P,
+                 ownOMP_zepmLComb_vav_64f_P);
+}
