@@ -150,7 +150,7 @@ struct SquareTerms
 // ---- The terms of a call --------------------------------------------------------------------------------------------
 
 template <class A, class B>
-struct Products
+struct TermsOfProducts
 {
     A a;
     B b;
@@ -160,7 +160,7 @@ struct Products
     }
 };
 template <class A>
-struct Squares
+struct TermsOfSquares
 {
     A a;
     ZEPM_INLINE auto object(int32 k) const { return SquareTerms<decltype(a.object(k))>{a.object(k)}; }
@@ -171,13 +171,13 @@ ZEPM_INLINE auto termsOf(const Dotting<A, B>& x)
 {
     const auto a = x.src1.template view<Contiguous>(x.len);
     const auto b = x.src2.template view<Contiguous>(x.len);
-    return Products<std::remove_const_t<decltype(a)>, std::remove_const_t<decltype(b)>>{a, b};
+    return TermsOfProducts<std::remove_const_t<decltype(a)>, std::remove_const_t<decltype(b)>>{a, b};
 }
 template <bool Contiguous, int Rank, class A>
 ZEPM_INLINE auto termsOf(const Norming<Rank, A>& x)
 {
     const auto a = x.src.template view<Contiguous>(x.width);
-    return Squares<std::remove_const_t<decltype(a)>>{a};
+    return TermsOfSquares<std::remove_const_t<decltype(a)>>{a};
 }
 template <class A, class B>
 ZEPM_INLINE int32 lengthOf(const Dotting<A, B>& x)

@@ -90,11 +90,11 @@ requires(View::fixed&& N > 0) struct LanePieces<T, W, N, View>
 template <class T, int W, int N, class Terms>
 struct LaneTerms;
 template <class T, int W, int N, class A, class B>
-struct LaneTerms<T, W, N, Products<A, B>>
+struct LaneTerms<T, W, N, TermsOfProducts<A, B>>
 {
     LanePieces<T, W, N, A> a;
     LanePieces<T, W, N, B> b;
-    ZEPM_INLINE explicit LaneTerms(const Products<A, B>& of) : a(of.a), b(of.b) {}
+    ZEPM_INLINE explicit LaneTerms(const TermsOfProducts<A, B>& of) : a(of.a), b(of.b) {}
     template <int R, int First, int Length>
     ZEPM_INLINE Vec<T, W> piece(int32 k, ptrdiff_t offset = 0) const
     {
@@ -108,10 +108,10 @@ struct LaneTerms<T, W, N, Products<A, B>>
     ZEPM_INLINE bool liesDense() const { return a.liesDense() && b.liesDense(); }
 };
 template <class T, int W, int N, class A>
-struct LaneTerms<T, W, N, Squares<A>>
+struct LaneTerms<T, W, N, TermsOfSquares<A>>
 {
     LanePieces<T, W, N, A> a;
-    ZEPM_INLINE explicit LaneTerms(const Squares<A>& of) : a(of.a) {}
+    ZEPM_INLINE explicit LaneTerms(const TermsOfSquares<A>& of) : a(of.a) {}
     template <int R, int First, int Length>
     ZEPM_INLINE Vec<T, W> piece(int32 k, ptrdiff_t offset = 0) const
     {
@@ -145,12 +145,12 @@ ZEPM_INLINE bool liesAcross(const ListView<const T, Contiguous>&)
     return false;
 }
 template <class A, class B>
-ZEPM_INLINE bool liesAcross(const Products<A, B>& terms)
+ZEPM_INLINE bool liesAcross(const TermsOfProducts<A, B>& terms)
 {
     return liesAcross(terms.a) && liesAcross(terms.b);
 }
 template <class A>
-ZEPM_INLINE bool liesAcross(const Squares<A>& terms)
+ZEPM_INLINE bool liesAcross(const TermsOfSquares<A>& terms)
 {
     return liesAcross(terms.a);
 }
@@ -167,12 +167,12 @@ ZEPM_INLINE auto across(const View& view, int32 k, int32 i, int32 j)
         return loadVec<T, W>(object.at(i, j));
 }
 template <int W, class A, class B>
-ZEPM_INLINE auto termAcross(const Products<A, B>& terms, int32 k, int32 i, int32 j)
+ZEPM_INLINE auto termAcross(const TermsOfProducts<A, B>& terms, int32 k, int32 i, int32 j)
 {
     return across<W>(terms.a, k, i, j) * across<W>(terms.b, k, i, j);
 }
 template <int W, class A>
-ZEPM_INLINE auto termAcross(const Squares<A>& terms, int32 k, int32 i, int32 j)
+ZEPM_INLINE auto termAcross(const TermsOfSquares<A>& terms, int32 k, int32 i, int32 j)
 {
     const auto x = across<W>(terms.a, k, i, j);
     return x * x;
